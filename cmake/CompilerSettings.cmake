@@ -1,0 +1,24 @@
+# What our own targets are compiled with. Nothing here reaches those who link the library.
+
+set(QUORVEL_SANITIZE "" CACHE STRING "Sanitizers to build with, as for -fsanitize=")
+
+function(quorvel_own_target target)
+    set_target_properties(${target} PROPERTIES
+        CXX_STANDARD 17
+        CXX_STANDARD_REQUIRED ON
+        CXX_EXTENSIONS OFF
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON
+        POSITION_INDEPENDENT_CODE ON)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic)
+    if(QUORVEL_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+    target_compile_definitions(${target} PRIVATE
+        QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS QT_STRICT_ITERATORS)
+    if(QUORVEL_SANITIZE)
+        target_compile_options(${target} PRIVATE
+            -fsanitize=${QUORVEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+        target_link_options(${target} PRIVATE -fsanitize=${QUORVEL_SANITIZE})
+    endif()
+endfunction()
