@@ -1,0 +1,17 @@
+#pragma once
+
+#include "protocol/RequestFormatter.h"
+
+namespace quorvel
+{
+
+/// Dialect 1.0.1.
+class AspRequestFormatterV2 : public RequestFormatter
+{
+public:
+    QString formatRequest() override;
+    QString formatCommands() override;
+    QString wrapCommands(const QString& commands) override;
+};
+
+} // namespace quorvel

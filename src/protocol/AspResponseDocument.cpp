@@ -1,0 +1,36 @@
+#include "protocol/AspResponseDocument.h"
+
+#include "protocol/GuardedXmlReader.h"
+
+#include <QXmlInputSource>
+
+namespace quorvel
+{
+
+QDomDocument readResponse(const QString& response, ParamMap& result)
+{
+    GuardedXmlReader reader;
+    QXmlInputSource source;
+    source.setData(response);
+    // With a reader of our own texts of mere white space are kept: a blank is a value.
+    QDomDocument document;
+    if (!document.setContent(&source, &reader, nullptr, nullptr, nullptr))
+        return QDomDocument();
+    QDomElement root = document.documentElement();
+    result.insert(root.tagName(), root.attributeNode(QStringLiteral("version")).value());
+    return document;
+}
+
+void insertLeaves(const QDomElement& object, ParamMap& result)
+{
+    for (QDomElement leaf = object.firstChildElement(); !leaf.isNull();
+         leaf = leaf.nextSiblingElement())
+        result.insert(entryKey(object.tagName(), leaf.tagName()), leaf.text());
+}
+
+QString entryKey(const QString& object, const QString& entry)
+{
+    return object + QLatin1Char('.') + entry;
+}
+
+} // namespace quorvel

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <QBuffer>
+#include <QByteArray>
+#include <QEventLoop>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QNetworkRequest>
+#include <QUrl>
+
+namespace quorvel
+{
+
+class AbortSignal;
+
+/// One HTTP request and the blocking wait for its reply, by the rules that hold for all that the
+/// library sends: one request on the wire, no proxy, no redirect, no compression, a precise limit
+/// of time and one of size. Its network manager lives for just this exchange, so no connection,
+/// cookie or cache survives it. Needs a QCoreApplication.
+class NetworkExchange
+{
+public:
+    /// How the wait ended.
+    enum class Ending {
+        Finished, ///< the reply is complete or failed, as its error() tells
+        TimedOut, ///< the limit has passed
+        BrokenOff ///< the host's event loop was told to quit
+    };
+
+    /// A reply body of more bytes ends the exchange as an abort does.
+    static constexpr int largestBody = 4 * 1024 * 1024;
+
+    /// The exchange ends early, as aborted, when `abortSignal` is raised; null for never.
+    explicit NetworkExchange(const AbortSignal* abortSignal = nullptr);
+
+    static QNetworkRequest request(const QUrl& url);
+
+    Ending get(const QNetworkRequest& request, int limitMs);
+    Ending post(QNetworkRequest request, const QByteArray& body, int limitMs);
+
+    /// Valid after get or post, as long as the exchange lives.
+    const QNetworkReply& reply() const { return *pending; }
+    const QByteArray& body() const { return received; }
+
+private:
+    /// Can't be read twice, so that Qt can't send the request a second time by itself, which it
+    /// does with a rewindable body when the head of the reply is cut or garbled.
+    class OneWayBuffer : public QBuffer
+    {
+    public:
+        bool isSequential() const override { return true; }
+        bool seek(qint64 position) override;
+    };
+
+    Ending waitFor(QNetworkReply* reply, int limitMs);
+    void receive();
+
+    const AbortSignal* abortSignal;
+    QByteArray received;
+    OneWayBuffer buffer;
+    QNetworkAccessManager manager;
+    QEventLoop loop;
+    QNetworkReply* pending = nullptr;
+};
+
+} // namespace quorvel
