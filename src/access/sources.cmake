@@ -1,1 +1,5 @@
-target_sources(QuorvelApi1Objects PRIVATE)
+target_sources(QuorvelApi1Objects PRIVATE
+    access/AspCpeFacadeObject.cpp
+    access/AspCpeFlyweightFactory.cpp
+    access/AspFacade.cpp
+    access/ReplyReading.cpp)

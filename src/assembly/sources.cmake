@@ -1,1 +1,7 @@
-target_sources(QuorvelApi1Objects PRIVATE)
+target_sources(QuorvelApi1Objects PRIVATE
+    assembly/AspCpeRecognizer.cpp
+    assembly/Cpe.cpp
+    assembly/CpeBuilder.cpp
+    assembly/CpeBuilderDirector.cpp
+    assembly/CpeBuilderFactory.cpp
+    assembly/TelvoraCpeBuilderAspV1.cpp)

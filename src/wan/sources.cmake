@@ -1,1 +1,4 @@
-target_sources(QuorvelApi1Objects PRIVATE)
+target_sources(QuorvelApi1Objects PRIVATE
+    wan/AspWanSettingsImplementor.cpp
+    wan/AspWanSettingsImplementorV1.cpp
+    wan/AspWanSettingsImplementorV2.cpp)

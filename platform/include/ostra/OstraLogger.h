@@ -14,8 +14,7 @@ class OSTRA_PLATFORM_API OstraLogger
 {
 public:
     /// Receives every line, whatever its level, on the thread that logs it. It may log itself.
-    using Sink =
-        std::function<void(const QString& message, int level, const QString& loggerName)>;
+    using Sink = std::function<void(const QString& message, int level, const QString& loggerName)>;
 
     /// The one logger of the process, made at first use and never destroyed. Never null.
     static OstraLogger* getInstance();

@@ -1,0 +1,17 @@
+#pragma once
+
+/// \file
+/// Everything that a host may use.
+
+#include <quorvel/AspCpeFacadeObject.h>
+#include <quorvel/AspCpeFlyweightFactory.h>
+#include <quorvel/AspCpeProperties.h>
+#include <quorvel/AspDeviceWarrantyInformation.h>
+#include <quorvel/AspDhcpsClient.h>
+#include <quorvel/AspFacade.h>
+#include <quorvel/AspGeneralSettingsFacade.h>
+#include <quorvel/AspWebAppErrorCodes.h>
+#include <quorvel/AuthenticationInfo.h>
+#include <quorvel/CpeLoginResult.h>
+#include <quorvel/ParamMap.h>
+#include <quorvel/TelvoraCpeRouterMode.h>

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <quorvel/ParamMap.h>
+
+#include <QLatin1String>
+#include <QList>
+#include <QString>
+#include <initializer_list>
+
+namespace quorvel
+{
+
+/// The name under which an entry of an instance stands in a reply.
+inline QString replyKey(const QString& instance, const QString& entry)
+{
+    return instance + QLatin1Char('.') + entry;
+}
+
+/// One field of a record: the entry that fills it.
+template <typename Record>
+struct TextField {
+    const char* entry;
+    QString Record::*member;
+};
+
+/// Fills a record's texts from the entries whose names start with `prefix`, by the record's table.
+/// An entry that the reply lacks gives an empty text.
+template <typename Record, typename Table>
+void readTexts(Record& record, const Table& fields, const ParamMap& reply, const QString& prefix)
+{
+    for (const TextField<Record>& field : fields)
+        record.*field.member = reply.value(prefix + QLatin1String(field.entry));
+}
+
+/// The values of a reply that lists names, in key order, without its status entries; `listing`
+/// receives them as the log shows them.
+QList<QString> listedValues(const ParamMap& reply, std::initializer_list<QString> leftOut,
+                            QString& listing);
+
+} // namespace quorvel

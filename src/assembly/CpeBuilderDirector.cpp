@@ -1,0 +1,28 @@
+#include "assembly/CpeBuilderDirector.h"
+
+#include "assembly/AspCpeRecognizer.h"
+#include "protocol/Log.h"
+
+namespace quorvel
+{
+
+boost::shared_ptr<Cpe> CpeBuilderDirector::buildCpe(boost::shared_ptr<CpeBuilder> builder,
+                                                    const AuthenticationInfo& info)
+{
+    ParamMap parameters;
+    AspCpeRecognizer recognizer;
+    if (!recognizer.recognize(info, parameters))
+        return boost::shared_ptr<Cpe>();
+    logDebug(QStringLiteral("Building CPE..."));
+    const bool built = builder->buildCpe(parameters) && builder->buildSettingsImplementors() &&
+                       builder->buildRequestExecutor() && builder->buildRequestFormatter() &&
+                       builder->buildResponseParser() && builder->buildAuthenticator(info);
+    if (!built) {
+        logError(QStringLiteral("Failed to build CPE!"));
+        return boost::shared_ptr<Cpe>();
+    }
+    logDebug(QStringLiteral("CPE is built."));
+    return builder->getCpe();
+}
+
+} // namespace quorvel

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "protocol/CpeSettingsImplementor.h"
+
+namespace quorvel
+{
+
+class VoipSettingsImplementor : public CpeSettingsImplementor
+{
+};
+
+} // namespace quorvel
