@@ -1,0 +1,15 @@
+include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
+
+install_library(${WORK_DIR}/prefix)
+set(ENV{PKG_CONFIG_PATH} ${WORK_DIR}/prefix/${LIBDIR}/pkgconfig)
+run_step(pkg-config --modversion quorvelapi1)
+if(NOT step_output STREQUAL "${VERSION}\n")
+    message(FATAL_ERROR "pkg-config knows version ${step_output}")
+endif()
+run_step(pkg-config --cflags --libs quorvelapi1)
+string(STRIP "${step_output}" flags)
+separate_arguments(flags UNIX_COMMAND "${flags}")
+run_step(c++ -std=c++17 -fPIC ${CMAKE_CURRENT_LIST_DIR}/consumer/main.cpp
+    -o ${WORK_DIR}/consumer ${flags} -Wl,-rpath,${WORK_DIR}/prefix/${LIBDIR})
+run_step(${WORK_DIR}/consumer)
+expect_consumer_output()
