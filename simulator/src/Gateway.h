@@ -31,12 +31,13 @@ public:
     void addFault(const Fault& fault, bool only);
     void clearFaults();
 
-    State state() const;
+    /// The state is read and changed under the gateway's lock: copies of it share values without
+    /// a lock of their own.
+    void readState(const std::function<void(const State&)>& read) const;
     void changeState(const std::function<void(State&)>& change);
     /// Loses what isn't saved, and all sessions.
     void losePower();
 
-    /// Sessions are changed under the gateway's lock.
     void changeSessions(const std::function<void(Sessions&)>& change);
     std::size_t sessionNumber() const;
 

@@ -38,10 +38,10 @@ void Gateway::clearFaults()
     faults.clear();
 }
 
-State Gateway::state() const
+void Gateway::readState(const std::function<void(const State&)>& read) const
 {
     const std::lock_guard lock(mutex);
-    return current;
+    read(current);
 }
 
 void Gateway::changeState(const std::function<void(State&)>& change)

@@ -11,6 +11,15 @@ class GatewaySimulator::Private
 public:
     explicit Private(Scenario scenario) : gateway(std::move(scenario)), server(gateway) {}
 
+    std::string valueOf(Cow<Objects> State::*copy, const std::string& instance,
+                        const std::string& key) const
+    {
+        std::string result;
+        gateway.readState(
+            [&](const State& state) { result = valueIn((state.*copy).read(), instance, key); });
+        return result;
+    }
+
     Gateway gateway;
     Server server;
     std::string wantedAddress = "127.0.0.1";
@@ -80,25 +89,31 @@ void GatewaySimulator::clearFaults()
 
 std::string GatewaySimulator::value(const std::string& instance, const std::string& key) const
 {
-    const State state = d->gateway.state();
-    const std::string running = valueIn(state.running.read(), instance, key);
-    return running.empty() ? valueIn(state.status.read(), instance, key) : running;
+    std::string result;
+    d->gateway.readState([&](const State& state) {
+        result = valueIn(state.running.read(), instance, key);
+        if (result.empty())
+            result = valueIn(state.status.read(), instance, key);
+    });
+    return result;
 }
 
 std::string GatewaySimulator::configuredValue(const std::string& instance,
                                               const std::string& key) const
 {
-    return valueIn(d->gateway.state().configuration.read(), instance, key);
+    return d->valueOf(&State::configuration, instance, key);
 }
 
 std::string GatewaySimulator::storedValue(const std::string& instance, const std::string& key) const
 {
-    return valueIn(d->gateway.state().stored.read(), instance, key);
+    return d->valueOf(&State::stored, instance, key);
 }
 
 Objects GatewaySimulator::storedObjects() const
 {
-    return d->gateway.state().stored.read();
+    Objects objects;
+    d->gateway.readState([&objects](const State& state) { objects = state.stored.read(); });
+    return objects;
 }
 
 void GatewaySimulator::setValue(const std::string& instance, const std::string& key,

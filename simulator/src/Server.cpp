@@ -9,6 +9,7 @@ namespace quorvel::simulator
 
 bool Server::start(const std::string& address, int port, std::string& error)
 {
+    const std::lock_guard only(control);
     if (thread.joinable())
         return true;
     if (!listening.isReserved() && !listening.reserve(address, port, error))
@@ -29,6 +30,7 @@ bool Server::start(const std::string& address, int port, std::string& error)
 
 void Server::stop()
 {
+    const std::lock_guard only(control);
     if (!thread.joinable())
         return;
     inThread([this] { stopping = true; });
@@ -40,11 +42,13 @@ void Server::stop()
 
 void Server::refresh()
 {
+    const std::lock_guard only(control);
     inThread([this] { openOrClose(); });
 }
 
 void Server::goDown()
 {
+    const std::lock_guard only(control);
     inThread([this] { closeForRestart(nullptr); });
 }
 
@@ -95,16 +99,17 @@ void Server::inThread(const std::function<void()>& task)
 {
     if (!thread.joinable())
         return;
-    std::promise<void> done;
+    // Shared, since the waiting side may be gone before the other has left `set_value`.
+    const auto done = std::make_shared<std::promise<void>>();
     {
         const std::lock_guard lock(mutex);
-        tasks.push_back([&task, &done] {
+        tasks.push_back([&task, done] {
             task();
-            done.set_value();
+            done->set_value();
         });
     }
     wake.ring();
-    done.get_future().wait();
+    done->get_future().wait();
 }
 
 void Server::runTasks()

@@ -3,7 +3,6 @@
 #include "Connection.h"
 #include "Gateway.h"
 
-#include <atomic>
 #include <functional>
 #include <list>
 #include <thread>
@@ -18,7 +17,7 @@ public:
     explicit Server(Gateway& gateway) : gateway(gateway) {}
     ~Server() { stop(); }
 
-    /// @name From any thread, one call at a time
+    /// @name From any thread but the server's own
     /// @{
     bool start(const std::string& address, int port, std::string& error);
     void stop();
@@ -47,6 +46,8 @@ private:
     void serveAll(const std::vector<short>& ready);
 
     Gateway& gateway;
+    /// Held by those who start, stop and interrupt the thread.
+    std::mutex control;
     Wake wake;
     std::thread thread;
     Port listening;

@@ -17,8 +17,8 @@ namespace quorvel::simulator
 /// A gateway that isn't there: an HTTP server on a real TCP port that answers as one does.
 ///
 /// The server runs in a thread of its own, from `start` to `stop` or destruction. All operations
-/// may be called from any thread, those before `start` excepted. Texts are UTF-8. A value that
-/// doesn't exist reads as the empty string.
+/// may be called from any thread, but for construction, `listenOn` and destruction. Texts are
+/// UTF-8. A value that doesn't exist reads as the empty string.
 ///
 /// Of each object the gateway holds three copies. The configuration is what `get` reads and what
 /// a commit changes. The running copy is what is in effect: `apply` takes it over from the
@@ -76,7 +76,8 @@ public:
     /// Changes a key in all three copies, as if it had been written, saved and applied; makes
     /// the object if there is none.
     void setValue(const std::string& instance, const std::string& key, const std::string& value);
-    /// Sets a run-time value, such as a link state; makes the object if there is none.
+    /// Sets a run-time value, such as a link state, until the next restart; makes the object if
+    /// there is none.
     void setStatus(const std::string& instance, const std::string& key, const std::string& value);
 
     /// A power cycle: ends all connections and sessions, drops what isn't saved, and is

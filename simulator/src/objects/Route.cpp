@@ -1,4 +1,4 @@
-#include "ObjectKind.h"
+#include "Wan.h"
 
 namespace quorvel::simulator
 {
@@ -15,9 +15,8 @@ public:
             return ObjectKind::query(work, command);
         // One entry per candidate, all under the same key.
         for (const std::string& candidate : work.state.instancesOf("wan")) {
-            const std::string connected =
-                valueIn(work.state.status.read(), candidate, "isconnected");
-            work.answer(command, command.key, candidate + ":" + (connected == "1" ? "1" : "0"));
+            const char* state = isConnected(work.state, candidate) ? ":1" : ":0";
+            work.answer(command, command.key, candidate + state);
         }
         return ErrorCode::None;
     }

@@ -1,4 +1,4 @@
-#include "ObjectKind.h"
+#include "AccountObject.h"
 
 namespace quorvel::simulator
 {
@@ -6,21 +6,13 @@ namespace quorvel::simulator
 namespace
 {
 
-class SystemManager : public ObjectKind
+class SystemManager : public AccountObject
 {
 public:
-    ErrorCode get(Work& work, const Command& command) const override
-    {
-        // A password can be written and checked, but not read.
-        return command.key == "password" ? ErrorCode::None : ObjectKind::get(work, command);
-    }
-
     ErrorCode query(Work& work, const Command& command) const override
     {
-        if (command.key == "password")
-            return ErrorCode::None;
         if (command.key != "getenv")
-            return ObjectKind::query(work, command);
+            return AccountObject::query(work, command);
         const auto variable = work.scenario.environment.find(command.value);
         if (variable != work.scenario.environment.end())
             work.answer(command, variable->first, variable->second);
@@ -34,7 +26,7 @@ public:
             return ErrorCode::None;
         }
         if (command.key != "apply_user_info")
-            return ObjectKind::command(work, command);
+            return AccountObject::command(work, command);
         for (const char* holder : {"webui-0", "sysmgr-0"})
             applyInstance(work.state, holder);
         return ErrorCode::None;

@@ -1,4 +1,4 @@
-#include "ObjectKind.h"
+#include "Wan.h"
 
 #include <algorithm>
 
@@ -10,13 +10,18 @@ namespace
 
 const char* const entityLevel = "entities.";
 
+bool isEnabled(const State& state, const std::string& wan)
+{
+    return valueIn(state.running.read(), wan, "enabled") == "1";
+}
+
 class Wan : public ObjectKind
 {
 public:
     ErrorCode query(Work& work, const Command& command) const override
     {
         const bool connection = command.key == "isconnected" || command.key == "localip";
-        if (!connection || isEnabled(work, command.instance))
+        if (!connection || isEnabled(work.state, command.instance))
             return ObjectKind::query(work, command);
         work.answer(command, command.key, command.key == "isconnected" ? "0" : "");
         return ErrorCode::None;
@@ -37,11 +42,6 @@ protected:
     }
 
 private:
-    static bool isEnabled(const Work& work, const std::string& instance)
-    {
-        return valueIn(work.state.running.read(), instance, "enabled") == "1";
-    }
-
     // `value` is a type and an instance, as `pppox:pppox-1`. The instance may be empty or gone by
     // the time that an entity is taken away.
     static ErrorCode changeEntity(Values& values, bool adds, const std::string& value)
@@ -72,6 +72,11 @@ private:
 };
 
 } // namespace
+
+bool isConnected(const State& state, const std::string& wan)
+{
+    return isEnabled(state, wan) && valueIn(state.status.read(), wan, "isconnected") == "1";
+}
 
 const ObjectKind& wan()
 {

@@ -1,4 +1,4 @@
-#include "ObjectKind.h"
+#include "AccountObject.h"
 
 #include <algorithm>
 
@@ -14,19 +14,9 @@ std::string sessionIn(const std::string& text)
     return text.compare(0, 4, "SID=") == 0 ? text.substr(4) : text;
 }
 
-class WebInterface : public ObjectKind
+class WebInterface : public AccountObject
 {
 public:
-    ErrorCode get(Work& work, const Command& command) const override
-    {
-        return command.key == "password" ? ErrorCode::None : ObjectKind::get(work, command);
-    }
-
-    ErrorCode query(Work& work, const Command& command) const override
-    {
-        return command.key == "password" ? ErrorCode::None : ObjectKind::query(work, command);
-    }
-
     ErrorCode command(Work& work, const Command& command) const override
     {
         if (command.key == "check_admin_password") {
@@ -41,7 +31,7 @@ public:
             work.endedSessions.push_back(command.value.empty() ? work.session
                                                                : sessionIn(command.value));
         } else {
-            return ObjectKind::command(work, command);
+            return AccountObject::command(work, command);
         }
         return ErrorCode::None;
     }
