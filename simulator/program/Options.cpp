@@ -29,7 +29,8 @@ void declare(CLI::App& app, Options& options)
         ->check(port);
     app.add_option("--fault", options.faults,
                    "Inject a fault: NAME[:ARGUMENT][,TIMES][,after=N][,on=login|webapp|probe]"
-                   "[,key=KEY][,effect=no]; may be given several times");
+                   "[,key=KEY][,effect=no]; may be given several times")
+        ->allow_extra_args(false);
     app.add_option("--reboot-time", options.rebootTime,
                    "How many milliseconds a restart takes; the scenario's unless given")
         ->check(count);

@@ -29,12 +29,20 @@ bool readCommand(QXmlStreamReader& xml, Command& command)
     return hasKey && !xml.hasError();
 }
 
-bool readToEnd(QXmlStreamReader& xml)
+// Up to the root element. Nobody needs entities here, and they are how small requests grow large.
+bool readStart(QXmlStreamReader& xml)
 {
-    while (!xml.atEnd()) {
+    while (!xml.atEnd() && xml.tokenType() != QXmlStreamReader::StartElement) {
         if (xml.readNext() == QXmlStreamReader::DTD)
             return false;
     }
+    return !xml.hasError() && xml.name() == QLatin1String("xmlrequest");
+}
+
+bool readToEnd(QXmlStreamReader& xml)
+{
+    while (!xml.atEnd())
+        xml.readNext();
     return !xml.hasError();
 }
 
@@ -43,7 +51,7 @@ bool readToEnd(QXmlStreamReader& xml)
 ErrorCode readRequest(const std::string& text, Request& request)
 {
     QXmlStreamReader xml(QByteArray::fromRawData(text.data(), static_cast<int>(text.size())));
-    if (!xml.readNextStartElement() || xml.name() != QLatin1String("xmlrequest"))
+    if (!readStart(xml))
         return ErrorCode::Malformed;
     request.version = xml.attributes().value(QLatin1String("version")).toString().toStdString();
     while (xml.readNextStartElement()) {
