@@ -137,7 +137,7 @@ TEST(ScenarioTest, NestedValuesBecomeKeysWithDotsAndNumbers)
 TEST(ScenarioTest, BadFilesAreExplainedByFileAndKey)
 {
     EXPECT_EQ(problemIn(small), "none");
-    EXPECT_EQ(problemIn("{\n\"dialect\": }"), "home.json: line 2: illegal value");
+    EXPECT_EQ(problemIn("{\n\"dialect\": tru}"), "home.json: line 2: illegal value");
     EXPECT_EQ(problemIn("[]"), "home.json: must be an object in braces");
     EXPECT_EQ(problemIn("{}"), "home.json: dialect: is missing");
     EXPECT_EQ(problemIn(with(R"("colour": "red")")), "home.json: colour: is no key of a scenario");

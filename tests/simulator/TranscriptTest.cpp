@@ -15,7 +15,7 @@ TEST_F(TranscriptTest, ShowsEachRequestAndItsReply)
     gateway.clearExchanges();
     RawClient client(gateway.port());
     client.send("POST /cgi-bin/webapp HTTP/1.1\r\nHost: gateway\r\nCookie: " + cookie +
-                "\r\nContent-Length: 118\r\n\r\n"
+                "\r\nContent-Length: 116\r\n\r\n"
                 "<xmlrequest version=\"1.0.1\">\n <query inst=\"conn-0\">\n  <key>hostname</key>\n"
                 "  <value></value>\n </query>\n</xmlrequest>\n");
     client.readReply();
@@ -23,7 +23,7 @@ TEST_F(TranscriptTest, ShowsEachRequestAndItsReply)
                                     "POST /cgi-bin/webapp HTTP/1.1\n"
                                     "Host: gateway\n"
                                     "Cookie: SID=********\n"
-                                    "Content-Length: 118\n"
+                                    "Content-Length: 116\n"
                                     "\n"
                                     "<xmlrequest version=\"1.0.1\">\n"
                                     " <query inst=\"conn-0\">\n"
@@ -34,7 +34,7 @@ TEST_F(TranscriptTest, ShowsEachRequestAndItsReply)
                                     "---- reply\n"
                                     "HTTP/1.1 200 OK\n"
                                     "Content-Type: text/xml\n"
-                                    "Content-Length: 139\n"
+                                    "Content-Length: 132\n"
                                     "\n"
                                     "<response version=\"1.0.1\">\n"
                                     "<conn-0><key>hostname</key><value>gateway</value></conn-0>\n"
@@ -87,7 +87,7 @@ TEST_F(TranscriptTest, NamesTheFaultAndShowsWhatWasCut)
     ASSERT_EQ(exchanges.size(), 2U);
     EXPECT_EQ(exchanges[0].fault, "truncate");
     EXPECT_EQ(exchanges[0].replyBody,
-              "<response version=\"1.0.1\">\n<conn-0><key>hostname</key><value>ga");
+              "<response version=\"1.0.1\">\n<conn-0><key>hostname</key><value>gatew");
     EXPECT_EQ(exchanges[1].fault, "close");
     EXPECT_EQ(exchanges[1].replyHead, "");
     EXPECT_EQ(exchanges[1].replyBody, "");
