@@ -29,15 +29,20 @@ Script refusal(int status)
 short Connection::events() const
 {
     const bool reads = !clientDone && input.size() < inputLimit;
-    const bool sends = phase == Phase::Sending && script.pace.count() == 0;
+    const bool sends = phase == Phase::Sending && !isTimed();
     return static_cast<short>((reads ? POLLIN : 0) | (sends ? POLLOUT : 0));
 }
 
 std::optional<Connection::Clock::time_point> Connection::due() const
 {
-    if (phase == Phase::Sending && script.pace.count() > 0)
+    if (phase == Phase::Sending && isTimed())
         return nextByte;
     return std::nullopt;
+}
+
+bool Connection::isTimed() const
+{
+    return script.pace.count() > 0 || (sent == 0 && script.delay.count() > 0);
 }
 
 void Connection::proceed(short ready, const Answer& answer)
@@ -112,16 +117,15 @@ void Connection::play(const Script& next)
     script = next;
     sent = 0;
     phase = Phase::Sending;
-    nextByte = Clock::now();
+    nextByte = Clock::now() + script.delay;
 }
 
 bool Connection::send()
 {
     while (sent < script.bytes.size()) {
-        const bool paced = script.pace.count() > 0;
-        if (paced && Clock::now() < nextByte)
+        if (isTimed() && Clock::now() < nextByte)
             return false;
-        const std::size_t size = paced ? 1 : script.bytes.size() - sent;
+        const std::size_t size = script.pace.count() > 0 ? 1 : script.bytes.size() - sent;
         const auto gone = ::send(descriptor(), script.bytes.data() + sent, size, MSG_NOSIGNAL);
         if (gone < 0 && (errno == EAGAIN || errno == EINTR))
             return false;

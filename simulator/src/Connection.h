@@ -33,6 +33,9 @@ public:
     void drop();
 
 private:
+    /// Whether the next byte has a time of its own.
+    bool isTimed() const;
+
     enum class Phase { Reading, Sending, Holding };
 
     void receive();

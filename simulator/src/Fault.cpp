@@ -29,6 +29,7 @@ constexpr std::array kinds{
     KindRow{FaultKind::Close, "close", 0, 0, 0},
     KindRow{FaultKind::Reset, "reset", halfOfIt, 0, INT_MAX},
     KindRow{FaultKind::Hang, "hang", 0, 0, 0},
+    KindRow{FaultKind::Delay, "delay", 1000, 1, 3600000},
     KindRow{FaultKind::Drip, "drip", 100, 1, 60000},
     KindRow{FaultKind::Truncate, "truncate", 0, 0, 0},
     KindRow{FaultKind::WrongLength, "wrong-length", 100, INT_MIN, INT_MAX},

@@ -19,6 +19,15 @@ Script sent(const HttpReply& reply, const std::string& body, long long announced
     return script;
 }
 
+// Bytes that are no reply, or none at all.
+Script ending(Script::End end, const std::string& bytes = {})
+{
+    Script script;
+    script.bytes = bytes;
+    script.end = end;
+    return script;
+}
+
 HttpReply page(const std::string& contentType, const std::string& body)
 {
     HttpReply reply;
@@ -111,11 +120,11 @@ Script spoiltScript(const HttpRequest& request, const HttpReply& reply, const Fa
     Script script = scriptOf(request, reply);
     switch (fault.kind) {
     case FaultKind::Close:
-        return {{}, {}, Script::End::Close};
+        return ending(Script::End::Close);
     case FaultKind::Hang:
-        return {{}, {}, Script::End::Hold};
+        return ending(Script::End::Hold);
     case FaultKind::Garbage:
-        return {noise(argumentOf(fault)), {}, Script::End::Close};
+        return ending(Script::End::Close, noise(argumentOf(fault)));
     case FaultKind::Truncate:
         return sent(reply, reply.body.substr(0, reply.body.size() / 2), size, Script::End::Close);
     case FaultKind::WrongLength:
@@ -126,6 +135,9 @@ Script spoiltScript(const HttpRequest& request, const HttpReply& reply, const Fa
                                            : script.bytes.size() / 2);
         script.headSize = std::min(script.headSize, script.bytes.size());
         script.end = Script::End::Reset;
+        return script;
+    case FaultKind::Delay:
+        script.delay = std::chrono::milliseconds(argumentOf(fault));
         return script;
     case FaultKind::Drip:
         script.pace = std::chrono::milliseconds(argumentOf(fault));

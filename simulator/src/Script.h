@@ -20,6 +20,8 @@ struct Script {
     };
 
     std::string bytes;
+    /// Before the first byte.
+    std::chrono::milliseconds delay{0};
     /// Between two bytes; zero sends everything at once.
     std::chrono::milliseconds pace{0};
     End end = End::KeepOpen;

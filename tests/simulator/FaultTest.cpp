@@ -1,4 +1,4 @@
-#include "SimulatedGateway.h"
+#include "FaultyGateway.h"
 
 #include <algorithm>
 
@@ -10,44 +10,8 @@ using std::chrono::seconds;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-class FaultTest : public SimulatedGateway
+class FaultTest : public FaultyGateway
 {
-protected:
-    static constexpr const char* write =
-        "<xmlrequest version=\"1.0.1\">"
-        "<command inst=\"cfgmgr-0\"><key>begin_transaction</key><value>conn-0</value></command>"
-        "<set inst=\"conn-0\"><key>hostname</key><value>attic</value></set>"
-        "<command inst=\"cfgmgr-0\"><key>commit</key><value>conn-0</value></command>"
-        "<command inst=\"cfgmgr-0\"><key>end_transaction</key><value>conn-0</value></command>"
-        "<command inst=\"cfgmgr-0\"><key>save</key><value></value></command>"
-        "<command inst=\"conn-0\"><key>apply</key><value></value></command>"
-        "</xmlrequest>";
-
-    void inject(const std::string& text)
-    {
-        std::string error;
-        const auto fault = Fault::fromText(text, &error);
-        ASSERT_TRUE(fault) << error;
-        gateway.setFault(*fault);
-    }
-
-    // The write under a fault; what came back, to the end of the connection or of the reply.
-    std::unique_ptr<RawClient> writeUnder(const std::string& fault)
-    {
-        inject(fault);
-        auto client = std::make_unique<RawClient>(gateway.port());
-        client->send(post("/cgi-bin/webapp", write, cookie));
-        client->readReply();
-        return client;
-    }
-
-    void expectHealthy()
-    {
-        gateway.clearFaults();
-        EXPECT_EQ(errorOf({"get conn-0 hostname"}), 0);
-    }
-
-    bool isWritten() const { return gateway.storedValue("conn-0", "hostname") == "attic"; }
 };
 
 TEST_F(FaultTest, RefuseClosesThePort)
@@ -120,6 +84,20 @@ TEST_F(FaultTest, AHangingConnectionOutlivesARestart)
     client.readReply(milliseconds(100));
     EXPECT_EQ(client.received(), "");
     EXPECT_EQ(client.ending(), Ending::Open);
+}
+
+TEST_F(FaultTest, DelayAnswersLate)
+{
+    inject("delay:1");
+    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 0);
+    inject("delay:3600000");
+    RawClient client(gateway.port());
+    client.send(post("/cgi-bin/webapp", write, cookie));
+    ASSERT_TRUE(gateway.waitForRequests(3, seconds(10)));
+    client.readReply(milliseconds(100));
+    EXPECT_EQ(client.received(), "");
+    EXPECT_EQ(client.ending(), Ending::Open);
+    expectHealthy();
 }
 
 TEST_F(FaultTest, DripSendsByteByByte)
@@ -249,118 +227,6 @@ TEST_F(FaultTest, TooDeepIsNested)
                                                 "<webapp><error>0</error></webapp></response>\n");
     const std::string body = writeUnder("too-deep")->body();
     EXPECT_EQ(std::count(body.begin(), body.end(), 'a') - 2, 2 * 256);
-}
-
-TEST_F(FaultTest, AFailingCommandTakesTheWholeRequestWithIt)
-{
-    const Objects before = gateway.storedObjects();
-    for (int command = 1; command <= 6; ++command) {
-        const auto client = writeUnder("command-fails:" + std::to_string(command));
-        EXPECT_EQ(errorIn(client->body()), 11);
-        EXPECT_EQ(gateway.storedObjects(), before);
-        EXPECT_EQ(gateway.value("conn-0", "hostname"), "gateway");
-    }
-    EXPECT_EQ(errorIn(writeUnder("command-fails:7")->body()), 0);
-    EXPECT_TRUE(isWritten());
-}
-
-TEST_F(FaultTest, APowerCutTakesTheWholeRequestWithIt)
-{
-    const Objects before = gateway.storedObjects();
-    for (int command = 1; command <= 6; ++command) {
-        const auto client = writeUnder("power-cut:" + std::to_string(command) + " 1");
-        EXPECT_EQ(client->received(), "");
-        EXPECT_EQ(client->ending(), Ending::Reset);
-        EXPECT_EQ(gateway.storedObjects(), before);
-        EXPECT_EQ(gateway.sessionNumber(), 0U);
-        ASSERT_TRUE(gateway.waitUntilReachable(true, seconds(10)));
-        cookie = logIn();
-    }
-    EXPECT_EQ(errorIn(writeUnder("power-cut:7")->body()), 0);
-    EXPECT_TRUE(isWritten());
-}
-
-TEST_F(FaultTest, ASpoiltReplyCanMeanThatNothingWasDone)
-{
-    const Objects before = gateway.storedObjects();
-    for (const char* fault : {"close effect=no", "reset effect=no", "truncate effect=no",
-                              "garbage effect=no", "html effect=no", "http:500 effect=no"}) {
-        writeUnder(fault);
-        EXPECT_EQ(gateway.storedObjects(), before) << fault;
-        EXPECT_EQ(gateway.value("conn-0", "hostname"), "gateway") << fault;
-    }
-    expectHealthy();
-}
-
-TEST_F(FaultTest, ALoginWithoutEffectOpensNoSession)
-{
-    inject("close effect=no on=login");
-    logIn();
-    EXPECT_EQ(gateway.sessionNumber(), 1U);
-    inject("close on=login");
-    logIn();
-    EXPECT_EQ(gateway.sessionNumber(), 2U);
-}
-
-TEST_F(FaultTest, AFaultLastsForItsNumberOfRequests)
-{
-    inject("error:5 2");
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 5);
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 5);
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 0);
-}
-
-TEST_F(FaultTest, AFaultLetsRequestsPassFirst)
-{
-    inject("error:5 1 after=2");
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 0);
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 0);
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 5);
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 0);
-}
-
-TEST_F(FaultTest, AFaultHitsItsTargetOnly)
-{
-    const auto probe = [this] {
-        RawClient client(gateway.port());
-        client.send("GET / HTTP/1.1\r\nHost: gateway\r\n\r\n");
-        client.readReply();
-        return client.status();
-    };
-    inject("http:500 on=login");
-    EXPECT_EQ(probe(), 200);
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 0);
-    inject("empty on=login");
-    EXPECT_EQ(logIn(), "");
-    inject("empty on=webapp");
-    EXPECT_NE(logIn(), "");
-    EXPECT_EQ(send({"get conn-0 hostname"}), "");
-    inject("http:500 on=probe");
-    EXPECT_EQ(probe(), 500);
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 0);
-}
-
-TEST_F(FaultTest, AFaultHitsRequestsWithItsKeyOnly)
-{
-    inject("error:5 key=apply");
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 0);
-    EXPECT_EQ(errorOf({"command conn-0 apply"}), 5);
-}
-
-TEST_F(FaultTest, SeveralFaultsAreInForceAtOnce)
-{
-    gateway.setFault(*Fault::fromText("error:5 1"));
-    gateway.addFault(*Fault::fromText("error:6 1"));
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 5);
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 6);
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 0);
-}
-
-TEST_F(FaultTest, ANewFaultEndsTheOthers)
-{
-    inject("refuse");
-    inject("error:5");
-    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 5);
 }
 
 } // namespace quorvel::simulator::tests

@@ -21,10 +21,10 @@ std::string problemIn(const std::string& text)
 
 TEST(FaultTextTest, EveryFaultHasAName)
 {
-    EXPECT_THAT(Fault::names(), ElementsAre("refuse", "close", "reset", "hang", "drip", "truncate",
-                                            "wrong-length", "garbage", "html", "empty", "http",
-                                            "bad-utf8", "error", "session-expired", "oversized",
-                                            "too-deep", "command-fails", "power-cut"));
+    EXPECT_THAT(Fault::names(), ElementsAre("refuse", "close", "reset", "hang", "delay", "drip",
+                                            "truncate", "wrong-length", "garbage", "html", "empty",
+                                            "http", "bad-utf8", "error", "session-expired",
+                                            "oversized", "too-deep", "command-fails", "power-cut"));
     for (const std::string& name : Fault::names()) {
         const auto fault = Fault::fromText(name);
         ASSERT_TRUE(fault) << name;

@@ -1,6 +1,5 @@
 #include "SimulatedGateway.h"
 
-#include <regex>
 #include <thread>
 
 namespace quorvel::simulator::tests
@@ -18,8 +17,7 @@ TEST_F(SessionTest, ALoginHandsOutACookieThatCannotBeGuessed)
     client.send(post("/cgi-bin/login", "user=admin&password=admin"));
     client.readReply();
     EXPECT_EQ(client.status(), 200);
-    EXPECT_TRUE(
-        std::regex_match(client.header("Set-Cookie"), std::regex("SID=[0-9a-f]{32}; path=/")));
+    EXPECT_THAT(client.header("Set-Cookie"), testing::MatchesRegex("SID=[0-9a-f]{32}; path=/"));
     EXPECT_NE(client.header("Set-Cookie"), cookie + "; path=/");
 }
 

@@ -1,5 +1,6 @@
 #include "SimulatedGateway.h"
 
+#include <cstdlib>
 #include <sstream>
 
 namespace quorvel::simulator::tests
@@ -52,7 +53,7 @@ int errorIn(const std::string& body)
 {
     const std::string label = "<webapp><error>";
     const auto place = body.find(label);
-    return place == std::string::npos ? -1 : std::stoi(body.substr(place + label.size()));
+    return place == std::string::npos ? -1 : std::atoi(body.c_str() + place + label.size());
 }
 
 SimulatedGateway::SimulatedGateway(const std::string& scenario)

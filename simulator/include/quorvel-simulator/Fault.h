@@ -20,6 +20,8 @@ enum class FaultKind {
     /// `hang`: no reply, the connection stays open until the client gives up, also while the
     /// gateway restarts.
     Hang,
+    /// `delay`: the whole reply, but late. Argument: milliseconds (1000).
+    Delay,
     /// `drip`: the reply goes out byte by byte. Argument: milliseconds between two bytes (100).
     Drip,
     /// `truncate`: the length of the whole body, but only half of it, then a close.
