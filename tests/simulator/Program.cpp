@@ -9,13 +9,13 @@
 namespace quorvel::simulator::tests
 {
 
-Program::Program(const std::vector<std::string>& arguments)
+Program::Program(const std::vector<std::string>& arguments, const std::string& path)
 {
     int out[2];
     int err[2];
     if (pipe(out) != 0 || pipe(err) != 0)
         return;
-    std::vector<char*> argv{const_cast<char*>(GATEWAY_SIM)};
+    std::vector<char*> argv{const_cast<char*>(path.c_str())};
     for (const std::string& argument : arguments)
         argv.push_back(const_cast<char*>(argument.c_str()));
     argv.push_back(nullptr);
@@ -25,7 +25,7 @@ Program::Program(const std::vector<std::string>& arguments)
         dup2(err[1], STDERR_FILENO);
         for (const int end : {out[0], out[1], err[0], err[1]})
             close(end);
-        execv(GATEWAY_SIM, argv.data());
+        execv(path.c_str(), argv.data());
         _exit(127);
     }
     close(out[1]);

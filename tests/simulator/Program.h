@@ -11,7 +11,9 @@ namespace quorvel::simulator::tests
 class Program
 {
 public:
-    explicit Program(const std::vector<std::string>& arguments);
+    /// `path` is a copy of the program, if not the one that was built.
+    explicit Program(const std::vector<std::string>& arguments,
+                     const std::string& path = GATEWAY_SIM);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;

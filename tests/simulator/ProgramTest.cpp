@@ -3,6 +3,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -137,6 +138,24 @@ TEST(ProgramTest, ListsItsScenarios)
     EXPECT_EQ(program.wait(), 0);
     EXPECT_THAT(program.output(), HasSubstr("classic: An ADSL gateway of the older kind"));
     EXPECT_THAT(program.output(), HasSubstr("\nmodern: A gateway of the newer kind"));
+}
+
+TEST(ProgramTest, FindsTheScenariosInstalledBesideIt)
+{
+    namespace fs = std::filesystem;
+    char name[] = "/tmp/quorvel-install-XXXXXX";
+    ASSERT_NE(mkdtemp(name), nullptr);
+    const fs::path root(name);
+    fs::create_directories(root / "bin");
+    fs::create_directories(root / "share/quorvel/scenarios");
+    fs::copy_file(GATEWAY_SIM, root / "bin/quorvel-gateway-sim");
+    std::ofstream(root / "share/quorvel/scenarios/attic.json")
+        << R"({"description": "Mine", "dialect": "1.0.0", "managers": [], "objects": {},
+               "login": {"user": "u", "password": "p"}})";
+    Program program({"--list-scenarios"}, root / "bin/quorvel-gateway-sim");
+    EXPECT_EQ(program.wait(), 0);
+    EXPECT_THAT(program.output(), StartsWith("attic: Mine\nclassic: "));
+    fs::remove_all(root);
 }
 
 TEST(ProgramTest, TellsItsVersion)
