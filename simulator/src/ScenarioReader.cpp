@@ -1,0 +1,251 @@
+#include "quorvel-simulator/Scenario.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <functional>
+
+namespace quorvel::simulator
+{
+
+namespace
+{
+
+/// The first thing that is wrong with a scenario; reading goes on, but nothing is used.
+class Problems
+{
+public:
+    explicit Problems(const std::string& origin) : origin(origin) {}
+
+    void add(const QString& place, const std::string& problem)
+    {
+        if (first.empty())
+            first = origin + ": " + (place.isEmpty() ? "" : place.toStdString() + ": ") + problem;
+    }
+
+    const std::string& text() const { return first; }
+
+private:
+    const std::string origin;
+    std::string first;
+};
+
+QString below(const QString& place, const QString& key)
+{
+    return place.isEmpty() ? key : place + QLatin1Char('.') + key;
+}
+
+std::string readText(const QJsonValue& value, const QString& place, Problems& problems)
+{
+    if (!value.isString())
+        problems.add(place, "must be a text in quotes");
+    return value.toString().toStdString();
+}
+
+int readCount(const QJsonValue& value, const QString& place, Problems& problems)
+{
+    const int number = value.toInt(-1);
+    if (number < 0)
+        problems.add(place, "must be a whole number, not negative");
+    return number;
+}
+
+// `{"sip": {"user": "x"}}` is the key `sip.user`, `{"client": [{"mac": "x"}]}` is `client0.mac`.
+void readValues(const QJsonValue& value, const QString& place, const QString& key, Values& values,
+                Problems& problems)
+{
+    if (value.isObject()) {
+        const QJsonObject object = value.toObject();
+        for (auto entry = object.begin(); entry != object.end(); ++entry)
+            readValues(entry.value(), below(place, entry.key()), below(key, entry.key()), values,
+                       problems);
+    } else if (value.isArray()) {
+        const QJsonArray array = value.toArray();
+        for (int i = 0; i < array.size(); ++i)
+            readValues(array[i], place + QString::number(i), key + QString::number(i), values,
+                       problems);
+    } else {
+        values[key.toStdString()] = readText(value, place, problems);
+    }
+}
+
+QJsonObject readObject(const QJsonValue& value, const QString& place, Problems& problems)
+{
+    if (!value.isObject())
+        problems.add(place, "must be an object in braces");
+    return value.toObject();
+}
+
+Values readFlat(const QJsonValue& value, const QString& place, Problems& problems)
+{
+    Values values;
+    readValues(readObject(value, place, problems), place, {}, values, problems);
+    return values;
+}
+
+void readObjects(const QJsonValue& value, const QString& place, Scenario& scenario,
+                 Problems& problems)
+{
+    const QJsonObject objects = readObject(value, place, problems);
+    for (auto object = objects.begin(); object != objects.end(); ++object) {
+        const std::string instance = object.key().toStdString();
+        const QString where = below(place, object.key());
+        scenario.configuration[instance];
+        const QJsonObject parts = readObject(object.value(), where, problems);
+        for (auto part = parts.begin(); part != parts.end(); ++part) {
+            const Values values = readFlat(part.value(), below(where, part.key()), problems);
+            if (part.key() == QLatin1String("configuration"))
+                scenario.configuration[instance] = values;
+            else if (part.key() == QLatin1String("status"))
+                scenario.status[instance] = values;
+            else
+                problems.add(below(where, part.key()), "is neither configuration nor status");
+        }
+    }
+}
+
+void readLogin(const QJsonValue& value, const QString& place, Scenario& scenario,
+               Problems& problems)
+{
+    const QJsonObject login = readObject(value, place, problems);
+    scenario.user =
+        readText(login[QLatin1String("user")], below(place, QStringLiteral("user")), problems);
+    // Both places where a gateway keeps it.
+    const std::string password = readText(login[QLatin1String("password")],
+                                          below(place, QStringLiteral("password")), problems);
+    for (const char* holder : {"webui-0", "sysmgr-0"})
+        scenario.configuration[holder]["password"] = password;
+}
+
+void readSessions(const QJsonValue& value, const QString& place, Scenario& scenario,
+                  Problems& problems)
+{
+    const QJsonObject sessions = readObject(value, place, problems);
+    for (auto entry = sessions.begin(); entry != sessions.end(); ++entry) {
+        const QString where = below(place, entry.key());
+        const int number = readCount(entry.value(), where, problems);
+        if (entry.key() == QLatin1String("number"))
+            scenario.sessionNumber = number;
+        else if (entry.key() == QLatin1String("requests"))
+            scenario.sessionRequests = number;
+        else
+            problems.add(where, "is no key of sessions");
+    }
+}
+
+void readManagers(const QJsonValue& value, const QString& place, Scenario& scenario,
+                  Problems& problems)
+{
+    if (!value.isArray())
+        problems.add(place, "must be a list in brackets");
+    for (const QJsonValue& manager : value.toArray())
+        scenario.managers.push_back(readText(manager, place, problems));
+}
+
+void readDialect(const QJsonValue& value, const QString& place, Scenario& scenario,
+                 Problems& problems)
+{
+    scenario.dialect = readText(value, place, problems);
+    if (scenario.dialect != "1.0.0" && scenario.dialect != "1.0.1")
+        problems.add(place, R"(must be "1.0.0" or "1.0.1")");
+}
+
+void readTemplates(const QJsonValue& value, const QString& place, Scenario& scenario,
+                   Problems& problems)
+{
+    const QJsonObject templates = readObject(value, place, problems);
+    for (auto entry = templates.begin(); entry != templates.end(); ++entry) {
+        scenario.templates[entry.key().toStdString()] =
+            readFlat(entry.value(), below(place, entry.key()), problems);
+    }
+}
+
+using Reader = std::function<void(const QJsonValue&, const QString&, Scenario&, Problems&)>;
+
+struct TopLevelKey {
+    const char* name;
+    bool required;
+    Reader read;
+};
+
+const std::vector<TopLevelKey>& topLevel()
+{
+    static const std::vector<TopLevelKey> keys{
+        {"description", false,
+         [](const auto& value, const auto& place, auto& scenario, auto& problems) {
+             scenario.description = readText(value, place, problems);
+         }},
+        {"dialect", true, readDialect},
+        // Before the login, which adds the password to objects that are read here.
+        {"objects", true, readObjects},
+        {"login", true, readLogin},
+        {"sessions", false, readSessions},
+        {"reboot_time_ms", false,
+         [](const auto& value, const auto& place, auto& scenario, auto& problems) {
+             scenario.rebootTime = readCount(value, place, problems);
+         }},
+        {"managers", true, readManagers},
+        {"list_keys", false,
+         [](const auto& value, const auto& place, auto& scenario, auto& problems) {
+             scenario.listKeys = readFlat(value, place, problems);
+         }},
+        {"environment", false,
+         [](const auto& value, const auto& place, auto& scenario, auto& problems) {
+             scenario.environment = readFlat(value, place, problems);
+         }},
+        {"templates", false, readTemplates},
+    };
+    return keys;
+}
+
+// Objects that every gateway has, whether the scenario has anything to say of them or not.
+void addFixedObjects(Scenario& scenario)
+{
+    for (const char* instance : {"cfgmgr-0", "devmgr-0", "sysmgr-0", "webui-0"})
+        scenario.configuration[instance];
+}
+
+int lineOf(const QByteArray& json, int offset)
+{
+    return json.left(offset).count('\n') + 1;
+}
+
+} // namespace
+
+std::optional<Scenario> Scenario::fromJson(const std::string& json, const std::string& origin,
+                                           std::string* error)
+{
+    Problems problems(origin);
+    const auto bytes = QByteArray::fromStdString(json);
+    QJsonParseError syntax;
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &syntax);
+    if (syntax.error != QJsonParseError::NoError) {
+        problems.add(QStringLiteral("line %1").arg(lineOf(bytes, syntax.offset)),
+                     syntax.errorString().toStdString());
+    }
+    const QJsonObject root = document.object();
+    if (problems.text().empty() && !document.isObject())
+        problems.add({}, "must be an object in braces");
+    Scenario scenario;
+    QStringList known;
+    for (const TopLevelKey& key : topLevel()) {
+        known.append(QString::fromLatin1(key.name));
+        if (root.contains(known.last()))
+            key.read(root[known.last()], known.last(), scenario, problems);
+        else if (key.required)
+            problems.add(known.last(), "is missing");
+    }
+    for (const QString& key : root.keys()) {
+        if (!known.contains(key))
+            problems.add(key, "is no key of a scenario");
+    }
+    addFixedObjects(scenario);
+    if (problems.text().empty())
+        return scenario;
+    if (error)
+        *error = problems.text();
+    return std::nullopt;
+}
+
+} // namespace quorvel::simulator
