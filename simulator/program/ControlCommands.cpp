@@ -16,7 +16,7 @@ using Arguments = std::vector<std::string>;
 struct ControlCommand {
     std::size_t arguments;
     const char* usage;
-    /// Returns the value to answer with; an error comes as an exception-free text in `error`.
+    /// Returns the value to answer with, or says in `error` what is wrong.
     std::function<std::string(GatewaySimulator&, const Arguments&, std::string& error)> run;
 };
 

@@ -22,12 +22,10 @@ struct KindRow {
     int highest;
 };
 
-constexpr int halfOfIt = -1;
-
 constexpr std::array kinds{
     KindRow{FaultKind::Refuse, "refuse", 0, 0, 0},
     KindRow{FaultKind::Close, "close", 0, 0, 0},
-    KindRow{FaultKind::Reset, "reset", halfOfIt, 0, INT_MAX},
+    KindRow{FaultKind::Reset, "reset", 0, 0, INT_MAX},
     KindRow{FaultKind::Hang, "hang", 0, 0, 0},
     KindRow{FaultKind::Delay, "delay", 1000, 1, 3600000},
     KindRow{FaultKind::Drip, "drip", 100, 1, 60000},

@@ -199,6 +199,22 @@ const std::vector<TopLevelKey>& topLevel()
     return keys;
 }
 
+void readTopLevel(const QJsonObject& root, Scenario& scenario, Problems& problems)
+{
+    QStringList known;
+    for (const TopLevelKey& key : topLevel()) {
+        known.append(QString::fromLatin1(key.name));
+        if (root.contains(known.last()))
+            key.read(root[known.last()], known.last(), scenario, problems);
+        else if (key.required)
+            problems.add(known.last(), "is missing");
+    }
+    for (const QString& key : root.keys()) {
+        if (!known.contains(key))
+            problems.add(key, "is no key of a scenario");
+    }
+}
+
 // Objects that every gateway has, whether the scenario has anything to say of them or not.
 void addFixedObjects(Scenario& scenario)
 {
@@ -228,18 +244,7 @@ std::optional<Scenario> Scenario::fromJson(const std::string& json, const std::s
     if (problems.text().empty() && !document.isObject())
         problems.add({}, "must be an object in braces");
     Scenario scenario;
-    QStringList known;
-    for (const TopLevelKey& key : topLevel()) {
-        known.append(QString::fromLatin1(key.name));
-        if (root.contains(known.last()))
-            key.read(root[known.last()], known.last(), scenario, problems);
-        else if (key.required)
-            problems.add(known.last(), "is missing");
-    }
-    for (const QString& key : root.keys()) {
-        if (!known.contains(key))
-            problems.add(key, "is no key of a scenario");
-    }
+    readTopLevel(root, scenario, problems);
     addFixedObjects(scenario);
     if (problems.text().empty())
         return scenario;

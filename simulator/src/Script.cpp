@@ -19,6 +19,16 @@ Script sent(const HttpReply& reply, const std::string& body, long long announced
     return script;
 }
 
+Script cut(Script script, const Fault& fault)
+{
+    const std::size_t half = script.bytes.size() / 2;
+    const std::size_t size = fault.argument ? static_cast<std::size_t>(*fault.argument) : half;
+    script.bytes.resize(std::min(script.bytes.size(), size));
+    script.headSize = std::min(script.headSize, script.bytes.size());
+    script.end = Script::End::Reset;
+    return script;
+}
+
 // Bytes that are no reply, or none at all.
 Script ending(Script::End end, const std::string& bytes = {})
 {
@@ -130,12 +140,7 @@ Script spoiltScript(const HttpRequest& request, const HttpReply& reply, const Fa
     case FaultKind::WrongLength:
         return sent(reply, reply.body, size + argumentOf(fault), Script::End::Close);
     case FaultKind::Reset:
-        script.bytes.resize(fault.argument ? std::min(script.bytes.size(),
-                                                      static_cast<std::size_t>(argumentOf(fault)))
-                                           : script.bytes.size() / 2);
-        script.headSize = std::min(script.headSize, script.bytes.size());
-        script.end = Script::End::Reset;
-        return script;
+        return cut(script, fault);
     case FaultKind::Delay:
         script.delay = std::chrono::milliseconds(argumentOf(fault));
         return script;

@@ -118,8 +118,8 @@ TEST(ProgramTest, AppliesLimitsFromTheCommandLine)
 
 TEST(ProgramTest, WritesAMaskedTranscriptAtTheEnd)
 {
-    char path[] = "/tmp/quorvel-transcript-XXXXXX";
-    const int file = mkstemp(path);
+    std::string path = testing::TempDir() + "quorvel-transcript-XXXXXX";
+    const int file = mkstemp(path.data());
     ASSERT_GE(file, 0);
     Program program({"--transcript", path});
     const int port = portBehind(program.line(), "listening on http://127.0.0.1:");
@@ -127,7 +127,7 @@ TEST(ProgramTest, WritesAMaskedTranscriptAtTheEnd)
     EXPECT_EQ(program.end(SIGTERM), 0);
     std::stringstream text;
     text << std::ifstream(path).rdbuf();
-    std::remove(path);
+    std::remove(path.c_str());
     EXPECT_THAT(text.str(), StartsWith("==== 1: POST /cgi-bin/login\n"));
     EXPECT_THAT(text.str(), HasSubstr("user=admin&password=********"));
 }
@@ -143,8 +143,8 @@ TEST(ProgramTest, ListsItsScenarios)
 TEST(ProgramTest, FindsTheScenariosInstalledBesideIt)
 {
     namespace fs = std::filesystem;
-    char name[] = "/tmp/quorvel-install-XXXXXX";
-    ASSERT_NE(mkdtemp(name), nullptr);
+    std::string name = testing::TempDir() + "quorvel-install-XXXXXX";
+    ASSERT_NE(mkdtemp(name.data()), nullptr);
     const fs::path root(name);
     fs::create_directories(root / "bin");
     fs::create_directories(root / "share/quorvel/scenarios");

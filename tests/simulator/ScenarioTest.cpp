@@ -38,25 +38,25 @@ std::string with(const std::string& key)
 class TemporaryFolder
 {
 public:
-    TemporaryFolder() { EXPECT_NE(mkdtemp(path), nullptr); }
+    TemporaryFolder() { EXPECT_NE(mkdtemp(path.data()), nullptr); }
     ~TemporaryFolder()
     {
         for (const std::string& file : files)
             std::remove(file.c_str());
-        rmdir(path);
+        rmdir(path.c_str());
     }
 
     std::string write(const std::string& name, const std::string& text)
     {
-        files.push_back(std::string(path) + "/" + name);
+        files.push_back(path + "/" + name);
         std::ofstream(files.back()) << text;
         return files.back();
     }
 
-    const char* name() const { return path; }
+    const char* name() const { return path.c_str(); }
 
 private:
-    char path[32] = "/tmp/quorvel-scenario-XXXXXX";
+    std::string path = testing::TempDir() + "quorvel-scenario-XXXXXX";
     std::vector<std::string> files;
 };
 
