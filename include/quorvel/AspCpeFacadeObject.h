@@ -12,6 +12,7 @@ namespace quorvel
 {
 
 class AspGeneralSettingsFacade;
+class AspWanSettingsFacade;
 class Cpe;
 
 /// The host's handle on one gateway: it recognises the gateway when it is first needed, tells which
@@ -80,6 +81,11 @@ public:
     boost::shared_ptr<AspGeneralSettingsFacade> getGeneralSettingsFacade(int* result);
     /// The same without telling why it is empty.
     boost::shared_ptr<AspGeneralSettingsFacade> getGeneralSettingsFacade();
+
+    /// A new facade on the gateway's WAN objects, under the same rules.
+    boost::shared_ptr<AspWanSettingsFacade> getWanSettingsFacade(int* result);
+    /// The same without telling why it is empty.
+    boost::shared_ptr<AspWanSettingsFacade> getWanSettingsFacade();
 
     /// Ends the waits of all requests that are under way on this gateway, through whichever facade
     /// or thread, newer radios excepted; they fail with AspWebAppRequestFailed within 100 ms. May

@@ -3,6 +3,9 @@
 /// \file
 /// Everything that a host may use.
 
+#include <quorvel/Asp3GConnectionMode.h>
+#include <quorvel/Asp3GSettings.h>
+#include <quorvel/Asp3GSimPinStatus.h>
 #include <quorvel/AspCpeFacadeObject.h>
 #include <quorvel/AspCpeFlyweightFactory.h>
 #include <quorvel/AspCpeProperties.h>
@@ -10,6 +13,9 @@
 #include <quorvel/AspDhcpsClient.h>
 #include <quorvel/AspFacade.h>
 #include <quorvel/AspGeneralSettingsFacade.h>
+#include <quorvel/AspGwInternetConnection.h>
+#include <quorvel/AspWanDetails.h>
+#include <quorvel/AspWanSettingsFacade.h>
 #include <quorvel/AspWebAppErrorCodes.h>
 #include <quorvel/AuthenticationInfo.h>
 #include <quorvel/CpeLoginResult.h>

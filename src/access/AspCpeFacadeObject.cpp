@@ -1,6 +1,7 @@
 #include <quorvel/AspCpeFacadeObject.h>
 
 #include <quorvel/AspGeneralSettingsFacade.h>
+#include <quorvel/AspWanSettingsFacade.h>
 
 #include "assembly/Cpe.h"
 #include "assembly/CpeBuilderDirector.h"
@@ -225,6 +226,18 @@ boost::shared_ptr<AspGeneralSettingsFacade> AspCpeFacadeObject::getGeneralSettin
 boost::shared_ptr<AspGeneralSettingsFacade> AspCpeFacadeObject::getGeneralSettingsFacade()
 {
     return getGeneralSettingsFacade(nullptr);
+}
+
+boost::shared_ptr<AspWanSettingsFacade> AspCpeFacadeObject::getWanSettingsFacade(int* result)
+{
+    return makeFacade<AspWanSettingsFacade>(
+        result, [](const AspCpeProperties& found) { return !found.wanVersion.isEmpty(); },
+        "AspCpeFacadeObject::getWanSettingsFacade -> WanVersion is invalid.");
+}
+
+boost::shared_ptr<AspWanSettingsFacade> AspCpeFacadeObject::getWanSettingsFacade()
+{
+    return getWanSettingsFacade(nullptr);
 }
 
 void AspCpeFacadeObject::abortPendingRequests()

@@ -2,11 +2,15 @@
 
 #include <quorvel/AspFacade.h>
 
+#include "access/ReplyReading.h"
 #include "assembly/Cpe.h"
 #include "protocol/Log.h"
+#include "protocol/ParamKeys.h"
 
+#include <QList>
 #include <QString>
 #include <functional>
+#include <initializer_list>
 #include <utility>
 
 namespace quorvel
@@ -92,6 +96,25 @@ QString fetchText(AspFacade& facade, AspWebAppErrorCodes& error, Request request
         },
         failureLine);
     return text;
+}
+
+/// A getter of a list: the values of the whole reply in key order but for the entries `leftOut`,
+/// logged at DEBUG behind `label` with their keys.
+template <typename Request>
+QList<QString> fetchList(AspFacade& facade, AspWebAppErrorCodes& error, Request request,
+                         const char* label, const char* failureLine,
+                         std::initializer_list<QString> leftOut = {responseKey, webappErrorKey})
+{
+    QList<QString> values;
+    fetch(
+        facade, error, request,
+        [&](const ParamMap& reply) {
+            QString listing;
+            values = listedValues(reply, leftOut, listing);
+            logDebug(QLatin1String(label) + listing);
+        },
+        failureLine);
+    return values;
 }
 
 /// The shape of a setter: the implementor's verdict is the result. `settle` gets it before the

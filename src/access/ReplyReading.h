@@ -5,6 +5,7 @@
 #include <QLatin1String>
 #include <QList>
 #include <QString>
+#include <cstddef>
 #include <initializer_list>
 
 namespace quorvel
@@ -14,6 +15,12 @@ namespace quorvel
 inline QString replyKey(const QString& instance, const QString& entry)
 {
     return instance + QLatin1Char('.') + entry;
+}
+
+/// Whether a flag of a reply is set; one that the reply lacks is not.
+inline bool isSet(const ParamMap& reply, const QString& key)
+{
+    return reply.value(key) == QLatin1String("1");
 }
 
 /// One field of a record: the entry that fills it.
@@ -30,6 +37,25 @@ void readTexts(Record& record, const Table& fields, const ParamMap& reply, const
 {
     for (const TextField<Record>& field : fields)
         record.*field.member = reply.value(prefix + QLatin1String(field.entry));
+}
+
+/// A word of the gateway's and the enumerator that it stands for.
+template <typename Enumeration>
+struct Word {
+    const char* text;
+    Enumeration meaning;
+};
+
+/// What a word means by its table, compared exactly; `otherwise` for a word that isn't there.
+template <typename Enumeration, std::size_t count>
+Enumeration meaningOf(const QString& text, const Word<Enumeration> (&words)[count],
+                      Enumeration otherwise)
+{
+    for (const Word<Enumeration>& word : words) {
+        if (text == QLatin1String(word.text))
+            return word.meaning;
+    }
+    return otherwise;
 }
 
 /// The values of a reply that lists names, in key order, without its status entries; `listing`

@@ -12,6 +12,10 @@ namespace quorvel
 namespace
 {
 
+const char managerListLabel[] = "AspGeneralSettingsFacade::getManagerList -> Manager List::";
+const char managerListFailure[] =
+    "AspGeneralSettingsFacade::getManagerList -> Failed to fetch manager list!";
+
 /// Names of the numbered entries of a client list.
 struct ClientPatterns {
     QString mac;
@@ -49,23 +53,6 @@ QList<AspDhcpsClient> fetchClients(AspFacade& facade, AspWebAppErrorCodes& error
     return clients;
 }
 
-template <typename Request>
-QList<QString> fetchNames(AspFacade& facade, AspWebAppErrorCodes& error, Request request,
-                          std::initializer_list<QString> leftOut, const char* label,
-                          const char* failureLine)
-{
-    QList<QString> names;
-    fetch(
-        facade, error, request,
-        [&](const ParamMap& reply) {
-            QString listing = QStringLiteral(":");
-            names = listedValues(reply, leftOut, listing);
-            logDebug(QLatin1String(label) + listing);
-        },
-        failureLine);
-    return names;
-}
-
 } // namespace
 
 QList<AspDhcpsClient> AspGeneralSettingsFacade::getStaticClientList(AspWebAppErrorCodes& error)
@@ -88,19 +75,16 @@ QList<AspDhcpsClient> AspGeneralSettingsFacade::getDynamicClientList(AspWebAppEr
 
 QList<QString> AspGeneralSettingsFacade::getManagerList(AspWebAppErrorCodes& error)
 {
-    return fetchNames(*this, error, general(&GeneralSettingsImplementor::getManagerList),
-                      {responseKey, webappErrorKey},
-                      "AspGeneralSettingsFacade::getManagerList -> Manager List:",
-                      "AspGeneralSettingsFacade::getManagerList -> Failed to fetch manager list!");
+    return fetchList(*this, error, general(&GeneralSettingsImplementor::getManagerList),
+                     managerListLabel, managerListFailure);
 }
 
 QList<QString> AspGeneralSettingsFacade::getManagerInstanceList(const QString& manager,
                                                                 AspWebAppErrorCodes& error)
 {
-    return fetchNames(
+    return fetchList(
         *this, error, general(&GeneralSettingsImplementor::getManagerInstanceList, manager),
-        {responseKey, webappErrorKey},
-        "AspGeneralSettingsFacade::getManagerInstanceList -> Manager Instance List:",
+        "AspGeneralSettingsFacade::getManagerInstanceList -> Manager Instance List::",
         "AspGeneralSettingsFacade::getManagerInstanceList -> Failed to fetch manager instance "
         "list!");
 }
@@ -108,10 +92,9 @@ QList<QString> AspGeneralSettingsFacade::getManagerInstanceList(const QString& m
 QList<QString> AspGeneralSettingsFacade::getWirelessCoreList(AspWebAppErrorCodes& error)
 {
     // Alone among the lists it leaves out the trace of a login, and it logs another's words.
-    return fetchNames(*this, error, general(&GeneralSettingsImplementor::getWirelessCoreList),
-                      {responseKey, webappErrorKey, AUTH_PARAM_LOGINRESULT},
-                      "AspGeneralSettingsFacade::getManagerList -> Manager List:",
-                      "AspGeneralSettingsFacade::getManagerList -> Failed to fetch manager list!");
+    return fetchList(*this, error, general(&GeneralSettingsImplementor::getWirelessCoreList),
+                     managerListLabel, managerListFailure,
+                     {responseKey, webappErrorKey, AUTH_PARAM_LOGINRESULT});
 }
 
 QList<QString> AspGeneralSettingsFacade::getWirelessCoreList()
