@@ -65,20 +65,37 @@ QNetworkRequest requestFor(const ParamMap& params)
     return request;
 }
 
-int statusOf(NetworkExchange::Ending ending, const QNetworkReply& reply)
+/// Whether the body has the length that the gateway announced, if it announced one: when a
+/// connection breaks at the wrong moment, Qt takes a part for the whole.
+bool isWhole(const NetworkExchange& exchange)
+{
+    bool isAnnounced = false;
+    const int length = exchange.reply().rawHeader("Content-Length").toInt(&isAnnounced);
+    return !isAnnounced || length < 0 || length == exchange.body().size();
+}
+
+/// Whether Qt met the end of the connection in the middle of a read, which it reports as an unknown
+/// error without a text of its own. A network error that is really unknown has the socket's text.
+bool wasClosedEarly(const QNetworkReply& reply)
+{
+    return reply.errorString() == QIODevice::tr("Unknown error");
+}
+
+int statusOf(NetworkExchange::Ending ending, const NetworkExchange& exchange)
 {
     if (ending == NetworkExchange::Ending::TimedOut)
         return RequestTimedOut;
     // An application that quits leaves a reply without an error, and without a body.
     if (ending == NetworkExchange::Ending::BrokenOff)
         return RequestNetworkFailure;
+    const QNetworkReply& reply = exchange.reply();
     switch (reply.error()) {
     case QNetworkReply::NoError:
-        return RequestSucceeded;
+        return isWhole(exchange) ? RequestSucceeded : RequestNetworkFailure;
     case QNetworkReply::TimeoutError:
         return RequestTimedOut;
     case QNetworkReply::UnknownNetworkError:
-        return RequestUnknownNetworkError;
+        return wasClosedEarly(reply) ? RequestNetworkFailure : RequestUnknownNetworkError;
     default:
         return RequestNetworkFailure;
     }
@@ -134,7 +151,7 @@ int HttpRequestExecutor::exchange(const ParamMap& params, ParamMap& result)
     NetworkExchange exchange(&abortSignal);
     const auto ending =
         exchange.post(requestFor(params), params.value(HTTP_PARAM_DATA_TO_SEND).toUtf8(), limitMs);
-    const int status = statusOf(ending, exchange.reply());
+    const int status = statusOf(ending, exchange);
     if (status == RequestSucceeded)
         result = contentOf(exchange);
     return status;
