@@ -1,0 +1,53 @@
+#include "QuorvelctlRun.h"
+
+#include <QProcess>
+#include <QProcessEnvironment>
+
+namespace quorvelctl::test
+{
+
+using namespace quorvel::simulator;
+
+Outcome runQuorvelctl(const std::string& arguments, const Surroundings& surroundings)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    const auto set = [&](const char* name, const std::string& value) {
+        environment.insert(QLatin1String(name), QString::fromStdString(value));
+    };
+    environment.remove(QStringLiteral("QUORVELCTL_ADDRESS"));
+    environment.remove(QStringLiteral("QUORVELCTL_PASSWORD"));
+    if (!surroundings.address.empty())
+        set("QUORVELCTL_ADDRESS", surroundings.address);
+    if (!surroundings.password.empty())
+        set("QUORVELCTL_PASSWORD", surroundings.password);
+    for (const auto& [name, value] : surroundings.variables)
+        set(name.c_str(), value);
+
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(QUORVELCTL),
+                  QString::fromStdString(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    process.write(surroundings.input.c_str());
+    process.closeWriteChannel();
+    EXPECT_TRUE(process.waitForFinished(100000)) << arguments << " doesn't end";
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << arguments << " crashed";
+    return {process.exitCode(), process.readAllStandardOutput().toStdString(),
+            process.readAllStandardError().toStdString()};
+}
+
+QuorvelctlTest::QuorvelctlTest(const std::string& scenario) : simulator(*Scenario::load(scenario))
+{
+    std::string error;
+    if (!simulator.start(&error))
+        ADD_FAILURE() << error;
+}
+
+Outcome QuorvelctlTest::run(const std::string& arguments, const std::string& input) const
+{
+    Surroundings surroundings;
+    surroundings.address = simulator.address();
+    surroundings.input = input;
+    return runQuorvelctl(arguments, surroundings);
+}
+
+} // namespace quorvelctl::test

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "quorvel-simulator/GatewaySimulator.h"
+
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace quorvelctl::test
+{
+
+/// How a run of the program ended.
+struct Outcome {
+    int status;
+    std::string output;
+    std::string errors;
+};
+
+/// What a run finds around it, beyond its arguments.
+struct Surroundings {
+    std::string address;
+    std::string password = "admin";
+    std::string input;
+    std::map<std::string, std::string> variables;
+};
+
+/// Runs quorvelctl with arguments separated by blanks.
+Outcome runQuorvelctl(const std::string& arguments, const Surroundings& surroundings);
+
+/// A simulated gateway to run the program against.
+class QuorvelctlTest : public testing::Test
+{
+protected:
+    explicit QuorvelctlTest(const std::string& scenario = "modern");
+
+    /// Runs it with the gateway's address and password.
+    Outcome run(const std::string& arguments, const std::string& input = std::string()) const;
+
+    quorvel::simulator::GatewaySimulator simulator;
+};
+
+} // namespace quorvelctl::test

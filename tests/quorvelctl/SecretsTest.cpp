@@ -1,0 +1,89 @@
+#include "QuorvelctlRun.h"
+
+#include <QTemporaryFile>
+#include <gmock/gmock.h>
+
+namespace quorvelctl::test
+{
+
+using testing::HasSubstr;
+using testing::Not;
+
+class QuorvelctlSecrets : public QuorvelctlTest
+{
+protected:
+    Outcome runWithoutPassword(const std::string& arguments, const std::string& input) const
+    {
+        return runQuorvelctl(arguments, {simulator.address(), "", input, {}});
+    }
+};
+
+TEST_F(QuorvelctlSecrets, ComeFromAFile)
+{
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    file.write("admin\nanything\n");
+    file.flush();
+    const Outcome result =
+        runWithoutPassword("session --password-file " + file.fileName().toStdString(), "");
+    EXPECT_EQ(result.status, 0) << result.errors;
+}
+
+TEST_F(QuorvelctlSecrets, ComeFromStandardInputLineByLine)
+{
+    const Outcome result =
+        runWithoutPassword("password check --password-stdin --candidate-stdin", "admin\nadmin\n");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(result.output, "That is the administrator password.\n");
+}
+
+TEST_F(QuorvelctlSecrets, AreMissedWhenNoSourceIsGiven)
+{
+    const Outcome result = runWithoutPassword("info", "");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "quorvelctl: no login password: give --password-file, "
+                             "--password-stdin or the environment variable QUORVELCTL_PASSWORD\n");
+    EXPECT_EQ(simulator.requestCount(), 0u);
+}
+
+TEST_F(QuorvelctlSecrets, AreToldApartFromAnInputThatEndsEarly)
+{
+    const Outcome result = runWithoutPassword("info --password-stdin", "");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "quorvelctl: standard input ends before the login password\n");
+}
+
+TEST_F(QuorvelctlSecrets, AWrongCandidateFails)
+{
+    const Outcome result = run("password check --candidate-stdin", "wrong\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors, "quorvelctl: that is not the administrator password\n");
+}
+
+TEST_F(QuorvelctlSecrets, ANewPasswordIsTheOneToLogInWith)
+{
+    const Outcome result = run("password set --new-password-stdin", "s3cret & more\n");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(result.output, "The administrator password is changed.\n");
+    EXPECT_EQ(run("session").status, 3);
+    const Surroundings changed{simulator.address(), "s3cret & more", {}, {}};
+    EXPECT_EQ(runQuorvelctl("session", changed).status, 0);
+}
+
+TEST_F(QuorvelctlSecrets, AreShownOnDemandOnly)
+{
+    EXPECT_THAT(run("session --json").output, HasSubstr("\"session\": \"********\""));
+    EXPECT_THAT(run("session --json --show-secrets").output, HasSubstr("\"session\": \"SID="));
+}
+
+TEST_F(QuorvelctlSecrets, AreHiddenInTheLogToo)
+{
+    const Outcome hidden = run("session --log-level debug");
+    EXPECT_THAT(hidden.errors, HasSubstr("[96] Logged in. / SESSION: ********\n"));
+    EXPECT_THAT(hidden.errors, Not(HasSubstr("SID=")));
+    EXPECT_THAT(run("session --log-level debug --show-secrets").errors,
+                HasSubstr("[96] Logged in. / SESSION: SID="));
+}
+
+} // namespace quorvelctl::test

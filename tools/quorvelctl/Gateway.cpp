@@ -1,0 +1,70 @@
+#include "Gateway.h"
+
+#include "Failure.h"
+
+namespace quorvelctl
+{
+
+using namespace quorvel;
+
+Gateway::Gateway(const Options& options, LogWatch& watch)
+    : watch(watch), info{options.user(), options.password(), options.address()}, handle(info)
+{
+    watch.reset();
+    generalFacade = handle.getGeneralSettingsFacade();
+    if (!generalFacade)
+        explainUnusable();
+}
+
+void Gateway::explainUnusable() const
+{
+    // The library says no more than that there is no gateway; its log lines tell why.
+    if (watch.loginWasRefused())
+        throw Failure{
+            LoginRefused,
+            QStringLiteral("%1 refused the login of user '%2'").arg(address(), info.user)};
+    if (watch.loginGotLost())
+        throw Failure{NotReachable, QStringLiteral("%1 can't be reached").arg(address())};
+    throw Failure{GatewayFailed,
+                  QStringLiteral("%1 answers, but not as a gateway does").arg(address())};
+}
+
+void Gateway::expectSuccess(const QString& what, AspWebAppErrorCodes error) const
+{
+    const auto fail = [&](ExitStatus status, const QString& why) {
+        throw Failure{status, QStringLiteral("can't %1: %2").arg(what, why)};
+    };
+    if (watch.loginWasRefused())
+        fail(LoginRefused, QStringLiteral("the login was refused"));
+    switch (static_cast<int>(error)) {
+    case AspWebAppNoError:
+        if (watch.loginGotLost())
+            fail(NotReachable, QStringLiteral("the login got no answer"));
+        if (watch.sawError())
+            fail(GatewayFailed, QStringLiteral("the gateway didn't do it"));
+        return;
+    case AspWebAppLoginFailed:
+        fail(GatewayFailed, QStringLiteral("the gateway's reply can't be read"));
+        return;
+    case AspWebAppRequestTimedOut:
+        fail(NotReachable, QStringLiteral("the gateway didn't answer in time"));
+        return;
+    case AspWebAppRequestFailed:
+        fail(NotReachable, QStringLiteral("the request failed on the way"));
+        return;
+    default:
+        fail(GatewayFailed, QStringLiteral("the gateway reports error %1").arg(error));
+    }
+}
+
+void Gateway::refuse(const QString& what) const
+{
+    throw Failure{GatewayFailed, QStringLiteral("can't %1: the gateway didn't do it").arg(what)};
+}
+
+void Gateway::lack(const QString& function) const
+{
+    throw Failure{GatewayFailed, QStringLiteral("%1 has no %2").arg(address(), function)};
+}
+
+} // namespace quorvelctl

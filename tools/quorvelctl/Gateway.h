@@ -1,0 +1,67 @@
+#pragma once
+
+#include "LogWatch.h"
+#include "Options.h"
+
+#include <quorvel/QuorvelApi1.h>
+
+#include <QString>
+#include <boost/shared_ptr.hpp>
+
+namespace quorvelctl
+{
+
+/// The gateway that the options name, recognised and logged in to at construction. Everything that
+/// goes wrong with it is thrown as a Failure that says what and why.
+class Gateway
+{
+public:
+    Gateway(const Options& options, LogWatch& watch);
+
+    const QString& address() const { return info.cpeAddress; }
+    quorvel::AspCpeFacadeObject& object() { return handle; }
+    quorvel::AspGeneralSettingsFacade& general() { return *generalFacade; }
+
+    /// Makes one call of the library, `call(error)`, and gives back what it returned, unless it
+    /// failed: by its error, or by an error line where the error says nothing. `what` completes
+    /// "can't ...".
+    template <typename Call>
+    auto ask(const QString& what, Call call)
+    {
+        watch.reset();
+        quorvel::AspWebAppErrorCodes error = quorvel::AspWebAppNoError;
+        const auto result = call(error);
+        expectSuccess(what, error);
+        return result;
+    }
+
+    /// The same for a call whose result is false on failure: false fails also without an error.
+    template <typename Call>
+    void demand(const QString& what, Call call)
+    {
+        if (!ask(what, call))
+            refuse(what);
+    }
+
+    /// A facade of the library's, which the gateway lacks if it is empty.
+    template <typename Facade>
+    Facade& require(const boost::shared_ptr<Facade>& facade, const QString& function)
+    {
+        if (!facade)
+            lack(function);
+        return *facade;
+    }
+
+private:
+    void expectSuccess(const QString& what, quorvel::AspWebAppErrorCodes error) const;
+    [[noreturn]] void refuse(const QString& what) const;
+    [[noreturn]] void lack(const QString& function) const;
+    [[noreturn]] void explainUnusable() const;
+
+    LogWatch& watch;
+    const quorvel::AuthenticationInfo info;
+    quorvel::AspCpeFacadeObject handle;
+    boost::shared_ptr<quorvel::AspGeneralSettingsFacade> generalFacade;
+};
+
+} // namespace quorvelctl

@@ -1,0 +1,57 @@
+#include "Options.h"
+
+#include "Routing.h"
+
+#include <CLI/Config.hpp>
+#include <CLI/Formatter.hpp>
+#include <iostream>
+#include <limits>
+#include <map>
+
+namespace quorvelctl
+{
+
+namespace
+{
+
+const std::map<std::string, int> levels{{"debug", 96},
+                                        {"info", 128},
+                                        {"warn", 150},
+                                        {"error", 182},
+                                        {"off", std::numeric_limits<int>::max()}};
+
+} // namespace
+
+void Options::addTo(CLI::App& app)
+{
+    app.add_option("-a,--address", givenAddress,
+                   "Address of the gateway, with or without a port; without it the default gateway "
+                   "of this machine")
+        ->envname("QUORVELCTL_ADDRESS");
+    app.add_option("-u,--user", userName, "Login name")
+        ->envname("QUORVELCTL_USER")
+        ->capture_default_str();
+    passwordSource.addTo(app, "password", "QUORVELCTL_PASSWORD", "login password");
+    app.add_flag("--json", json, "Print JSON instead of tables");
+    app.add_flag("--show-secrets", showSecrets, "Print passwords, keys and cookies in clear");
+    app.add_option("--log-level", levelName, "Show the library's lines from this level on")
+        ->check(CLI::IsMember({"debug", "info", "warn", "error", "off"}))
+        ->capture_default_str();
+}
+
+QString Options::address() const
+{
+    if (!givenAddress.empty())
+        return QString::fromStdString(givenAddress);
+    const QString gateway = defaultGateway();
+    std::cerr << "quorvelctl: no --address given, trying this machine's default gateway "
+              << gateway.toStdString() << '\n';
+    return gateway;
+}
+
+int Options::logLevel() const
+{
+    return levels.at(levelName);
+}
+
+} // namespace quorvelctl

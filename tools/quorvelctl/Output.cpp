@@ -1,0 +1,136 @@
+#include "Output.h"
+
+#include "Secrets.h"
+
+#include <QJsonDocument>
+#include <QStringList>
+#include <QVector>
+#include <iostream>
+
+namespace quorvelctl
+{
+
+namespace
+{
+
+void writeLine(const QString& line)
+{
+    int length = line.size();
+    while (length > 0 && line.at(length - 1) == QLatin1Char(' '))
+        --length;
+    std::cout << line.left(length).toStdString() << '\n';
+}
+
+void writeRow(const QStringList& cells, const QVector<int>& widths)
+{
+    QString line;
+    for (int i = 0; i < cells.size(); ++i)
+        line += cells.at(i).leftJustified(widths.at(i) + 2);
+    writeLine(line);
+}
+
+/// Control characters of a hostile gateway must not reach a terminal.
+QString printable(const QString& text)
+{
+    QString clean;
+    for (const QChar character : text)
+        clean += character.category() == QChar::Other_Control ? QChar(0xfffd) : character;
+    return clean;
+}
+
+QStringList headingsOf(const Record& record)
+{
+    QStringList headings;
+    for (const Field& field : record)
+        headings.append(field.heading.toUpper());
+    return headings;
+}
+
+} // namespace
+
+Field secretField(const QString& key, const QString& heading, const QString& value)
+{
+    return {key, heading, value, true};
+}
+
+QJsonValue Output::shown(const Field& field) const
+{
+    if (field.secret && !showSecrets && !field.value.toString().isEmpty())
+        return hiddenSecret();
+    return field.value;
+}
+
+QString Output::textOf(const Field& field) const
+{
+    const QJsonValue value = shown(field);
+    if (value.isBool())
+        return value.toBool() ? QStringLiteral("yes") : QStringLiteral("no");
+    if (value.isArray()) {
+        QStringList texts;
+        const QJsonArray values = value.toArray();
+        for (const QJsonValue& element : values)
+            texts.append(element.toVariant().toString());
+        return printable(texts.join(QStringLiteral(", ")));
+    }
+    return printable(value.toVariant().toString());
+}
+
+QJsonObject Output::toJson(const Record& record) const
+{
+    QJsonObject object;
+    for (const Field& field : record)
+        object.insert(field.key, shown(field));
+    return object;
+}
+
+void Output::print(const Record& record) const
+{
+    if (json) {
+        std::cout << QJsonDocument(toJson(record)).toJson().toStdString();
+        return;
+    }
+    int width = 0;
+    for (const Field& field : record)
+        width = qMax(width, field.heading.size());
+    for (const Field& field : record)
+        writeLine((field.heading + QLatin1Char(':')).leftJustified(width + 2) + textOf(field));
+}
+
+void Output::print(const QList<Record>& records, const QString& none) const
+{
+    if (json) {
+        QJsonArray objects;
+        for (const Record& record : records)
+            objects.append(toJson(record));
+        std::cout << QJsonDocument(objects).toJson().toStdString();
+        return;
+    }
+    if (records.isEmpty()) {
+        writeLine(none);
+        return;
+    }
+    QList<QStringList> rows{headingsOf(records.first())};
+    for (const Record& record : records) {
+        QStringList cells;
+        for (const Field& field : record)
+            cells.append(textOf(field));
+        rows.append(cells);
+    }
+    QVector<int> widths(rows.first().size());
+    for (const QStringList& cells : qAsConst(rows)) {
+        for (int i = 0; i < widths.size(); ++i)
+            widths[i] = qMax(widths.at(i), cells.value(i).size());
+    }
+    for (const QStringList& cells : qAsConst(rows))
+        writeRow(cells, widths);
+}
+
+void Output::printDone(const QString& sentence) const
+{
+    if (json)
+        print(Record{{QStringLiteral("done"), QString(), sentence}});
+    else
+        writeLine(sentence);
+}
+
+} // namespace quorvelctl

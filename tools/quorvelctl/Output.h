@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QJsonValue>
+#include <QList>
+#include <QString>
+
+namespace quorvelctl
+{
+
+/// One value that a command shows: under a heading on a terminal, under a key as JSON.
+struct Field {
+    QString key;
+    QString heading;
+    QJsonValue value;
+    bool secret = false;
+};
+
+/// What is shown of one thing, in order.
+using Record = QList<Field>;
+
+/// Marks a value that is shown only on demand.
+Field secretField(const QString& key, const QString& heading, const QString& value);
+
+/// Writes results to standard output, for people or as JSON.
+class Output
+{
+public:
+    Output(bool json, bool showSecrets) : json(json), showSecrets(showSecrets) {}
+
+    /// One thing: a line per value, or an object.
+    void print(const Record& record) const;
+    /// Things of one kind: a table, or an array of objects. `none` is what people read if there
+    /// are none.
+    void print(const QList<Record>& records, const QString& none) const;
+    /// What a command did: a sentence, or an object with "done".
+    void printDone(const QString& sentence) const;
+
+    /// The record as an object, with secrets hidden if they are to be.
+    QJsonObject toJson(const Record& record) const;
+
+private:
+    QJsonValue shown(const Field& field) const;
+    QString textOf(const Field& field) const;
+
+    bool json;
+    bool showSecrets;
+};
+
+} // namespace quorvelctl

@@ -1,0 +1,88 @@
+#include "Secrets.h"
+
+#include "Failure.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <iostream>
+
+namespace quorvelctl
+{
+
+namespace
+{
+
+QString firstLineOf(const std::string& path)
+{
+    QFile file(QString::fromStdString(path));
+    if (!file.open(QIODevice::ReadOnly))
+        throw Failure{WrongUsage,
+                      QStringLiteral("can't read %1: %2").arg(file.fileName(), file.errorString())};
+    QByteArray line = file.readLine();
+    while (line.endsWith('\n') || line.endsWith('\r'))
+        line.chop(1);
+    return QString::fromUtf8(line);
+}
+
+QString nextLineOfStdin(const std::string& meaning)
+{
+    std::string line;
+    if (!std::getline(std::cin, line))
+        throw Failure{WrongUsage, QStringLiteral("standard input ends before the %1")
+                                      .arg(QString::fromStdString(meaning))};
+    return QString::fromStdString(line);
+}
+
+} // namespace
+
+void SecretSource::addTo(CLI::App& command, const std::string& optionName,
+                         const std::string& environmentVariable, const std::string& whatItIs)
+{
+    name = optionName;
+    variable = environmentVariable;
+    meaning = whatItIs;
+    auto* path = command.add_option("--" + name + "-file", file,
+                                    "Read the " + meaning + " from the first line of this file");
+    command
+        .add_flag("--" + name + "-stdin", fromStdin,
+                  "Read the " + meaning +
+                      " from a line of standard input; without either option "
+                      "it comes from the environment variable " +
+                      variable)
+        ->excludes(path);
+}
+
+bool SecretSource::isGiven() const
+{
+    return !file.empty() || fromStdin || qEnvironmentVariableIsSet(variable.c_str());
+}
+
+QString SecretSource::read() const
+{
+    if (!file.empty())
+        return firstLineOf(file);
+    if (fromStdin)
+        return nextLineOfStdin(meaning);
+    if (qEnvironmentVariableIsSet(variable.c_str()))
+        return qEnvironmentVariable(variable.c_str());
+    throw Failure{WrongUsage,
+                  QStringLiteral("no %1: give --%2-file, --%2-stdin or the environment variable %3")
+                      .arg(QString::fromStdString(meaning), QString::fromStdString(name),
+                           QString::fromStdString(variable))};
+}
+
+QString hiddenSecret()
+{
+    return QStringLiteral("********");
+}
+
+QString withoutSecrets(const QString& line)
+{
+    static const QRegularExpression secret(
+        QStringLiteral(
+            "((?:password:|SESSION: |Session ID: |session storage\\.\\.\\.)\\s*)[^\\t\\n]+"),
+        QRegularExpression::CaseInsensitiveOption);
+    return QString(line).replace(secret, QStringLiteral("\\1") + hiddenSecret());
+}
+
+} // namespace quorvelctl

@@ -1,0 +1,32 @@
+#include "Session.h"
+
+#include "Failure.h"
+
+#include <iostream>
+#include <string>
+
+namespace quorvelctl
+{
+
+Gateway& Session::gateway()
+{
+    if (!opened)
+        opened = std::make_unique<Gateway>(options, watch);
+    return *opened;
+}
+
+void Session::applyLogLevel()
+{
+    watch.show(options.logLevel(), options.showSecrets);
+}
+
+void Session::confirm(const QString& question) const
+{
+    std::cerr << question.toStdString() << " [y/N] " << std::flush;
+    std::string answer;
+    std::getline(std::cin, answer);
+    if (answer != "y" && answer != "yes")
+        throw Failure{WrongUsage, QStringLiteral("not confirmed, nothing was sent")};
+}
+
+} // namespace quorvelctl

@@ -1,0 +1,14 @@
+#include "commands/Commands.h"
+
+namespace quorvelctl
+{
+
+void addCommands(CLI::App& app, Session& session)
+{
+    addIdentityCommands(app, session);
+    addPasswordCommands(app, session);
+    addWarrantyCommands(app, session);
+    addRestartCommands(app, session);
+}
+
+} // namespace quorvelctl

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <CLI/App.hpp>
+
+namespace quorvelctl
+{
+
+class Session;
+
+/// Adds every command.
+void addCommands(CLI::App& app, Session& session);
+
+/// @name A group each, in a file of its own
+/// @{
+void addIdentityCommands(CLI::App& app, Session& session);
+void addPasswordCommands(CLI::App& app, Session& session);
+void addRestartCommands(CLI::App& app, Session& session);
+void addWarrantyCommands(CLI::App& app, Session& session);
+/// @}
+
+} // namespace quorvelctl

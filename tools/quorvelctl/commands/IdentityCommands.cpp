@@ -1,0 +1,180 @@
+#include "Failure.h"
+#include "Session.h"
+#include "commands/Commands.h"
+
+using namespace quorvel;
+
+namespace quorvelctl
+{
+
+namespace
+{
+
+QString word(const char* text)
+{
+    return QString::fromLatin1(text);
+}
+
+Field field(const char* key, const char* heading, const QJsonValue& value)
+{
+    return {word(key), word(heading), value};
+}
+
+QString routerModeName(TelvoraCpeRouterMode mode)
+{
+    switch (mode) {
+    case TelvoraCpeRouterModeRouter:
+        return word("router");
+    case TelvoraCpeRouterModeAp:
+        return word("access point");
+    default:
+        return word("unknown");
+    }
+}
+
+/// The gateway's functions, with the version of each; empty for what it lacks.
+Record featuresOf(const AspCpeProperties& found)
+{
+    return {field("xml", "Dialect", found.xmlVersion),
+            field("general", "General settings", found.generalSettingsVersion),
+            field("adsl", "DSL", found.adslVersion),
+            field("ethernet", "Ethernet WAN", found.ethernetVersion),
+            field("wan", "WAN objects", found.wanVersion),
+            field("wireless", "Wireless", found.wirelessVersion),
+            field("voip", "Telephony", found.voipVersion),
+            field("3g", "3G modem", found.threeGVersion),
+            field("usbhost", "USB host", found.usbHostVersion),
+            field("pptp", "PPTP tunnels", found.pptpVersion),
+            field("l2tp", "L2TP tunnels", found.l2tpVersion),
+            field("warranty", "Warranty record", found.warrantyVersion)};
+}
+
+QJsonArray functionsOf(const AspCpeProperties& found)
+{
+    QJsonArray names;
+    for (const Field& feature : featuresOf(found).mid(1)) {
+        if (!feature.value.toString().isEmpty())
+            names.append(feature.key);
+    }
+    return names;
+}
+
+/// One text that the general settings know.
+QJsonValue identity(Gateway& gateway, const char* what,
+                    QString (AspGeneralSettingsFacade::*getter)(AspWebAppErrorCodes&))
+{
+    return gateway.ask(word("read the ") + word(what), [&](AspWebAppErrorCodes& error) {
+        return (gateway.general().*getter)(error);
+    });
+}
+
+void info(Session& session)
+{
+    Gateway& gateway = session.gateway();
+    using Facade = AspGeneralSettingsFacade;
+    const auto mode = gateway.ask(word("read the router mode"), [&](AspWebAppErrorCodes& error) {
+        return gateway.general().getRouterMode(error);
+    });
+    const auto defaultGw =
+        gateway.ask(word("read the default gateway"), [&](AspWebAppErrorCodes& error) {
+            return gateway.general().getDefaultGw(word("route-0"), error);
+        });
+    session.output().print(
+        {field("model", "Model", identity(gateway, "model name", &Facade::getModelName)),
+         field("serialNumber", "Serial number",
+               identity(gateway, "serial number", &Facade::getSerialNumber)),
+         field("firmware", "Firmware",
+               identity(gateway, "firmware version", &Facade::getFirmwareVersion)),
+         field("ethMac", "Ethernet MAC",
+               identity(gateway, "Ethernet MAC address", &Facade::getEthMacAddress)),
+         field("dslMac", "DSL MAC",
+               identity(gateway, "DSL MAC address", &Facade::getDslMacAddress)),
+         field("wlanMac", "Wireless MAC",
+               identity(gateway, "wireless MAC address", &Facade::getWlanMacAddress)),
+         field("routerMode", "Router mode", routerModeName(mode)),
+         field("defaultGateway", "Default gateway", defaultGw),
+         field("functions", "Functions", functionsOf(gateway.object().getCpeProperties()))});
+}
+
+void features(Session& session)
+{
+    session.output().print(featuresOf(session.gateway().object().getCpeProperties()));
+}
+
+void probe(Session& session)
+{
+    const QString address = session.options.address();
+    const bool available = AspCpeFacadeObject::isDeviceAvailable(address);
+    if (!available)
+        throw Failure{NotReachable, QStringLiteral("%1 doesn't answer").arg(address)};
+    session.output().print(
+        {field("address", "Address", address), field("available", "Answers", true)});
+}
+
+void clients(Session& session)
+{
+    Gateway& gateway = session.gateway();
+    const auto reserved = gateway.ask(word("list the clients"), [&](AspWebAppErrorCodes& error) {
+        return gateway.general().getStaticClientList(error);
+    });
+    const auto leased = gateway.ask(word("list the leases"), [&](AspWebAppErrorCodes& error) {
+        return gateway.general().getDynamicClientList(error);
+    });
+    QList<Record> records;
+    const auto append = [&](const QList<AspDhcpsClient>& list, const char* kind) {
+        for (const AspDhcpsClient& client : list)
+            records.append({field("mac", "MAC", client.mac), field("ip", "IP", client.ip),
+                            field("hostname", "Name", client.hostname),
+                            field("kind", "Address is", word(kind))});
+    };
+    append(reserved, "reserved");
+    append(leased, "leased");
+    session.output().print(records, word("No clients."));
+}
+
+void managers(Session& session)
+{
+    Gateway& gateway = session.gateway();
+    const auto names = gateway.ask(word("list the managers"), [&](AspWebAppErrorCodes& error) {
+        return gateway.general().getManagerList(error);
+    });
+    QList<Record> records;
+    for (const QString& name : names)
+        records.append({field("manager", "Manager", name)});
+    session.output().print(records, word("No managers."));
+}
+
+void showSession(Session& session)
+{
+    Gateway& gateway = session.gateway();
+    const QString id = gateway.general().getCurrentSessionId();
+    const bool valid = gateway.ask(word("check the session"), [&](AspWebAppErrorCodes& error) {
+        return gateway.general().checkSession(id, error);
+    });
+    session.output().print(
+        {secretField(word("session"), word("Session"), id), field("valid", "Valid", valid)});
+}
+
+} // namespace
+
+void addIdentityCommands(CLI::App& app, Session& session)
+{
+    const struct {
+        const char* name;
+        const char* help;
+        void (*run)(Session&);
+    } commands[] = {
+        {"info", "Show what the gateway is: identity, functions, router mode, default gateway",
+         info},
+        {"features", "Show the gateway's functions and their versions", features},
+        {"probe", "Test whether something answers at the address, without a login", probe},
+        {"clients", "List the clients of the gateway's DHCP server", clients},
+        {"managers", "List the managers that run on the gateway", managers},
+        {"session", "Show the session and whether the gateway takes it for valid", showSession}};
+    for (const auto& command : commands)
+        app.add_subcommand(command.name, command.help)->callback([&session, run = command.run] {
+            run(session);
+        });
+}
+
+} // namespace quorvelctl

@@ -1,0 +1,59 @@
+#include "Session.h"
+#include "Waiting.h"
+#include "commands/Commands.h"
+
+#include <memory>
+
+using namespace quorvel;
+
+namespace quorvelctl
+{
+
+namespace
+{
+
+struct Restart {
+    const char* name;
+    const char* help;
+    const char* question;
+    const char* what;
+    int (AspGeneralSettingsFacade::*operation)(AspWebAppErrorCodes&);
+    bool confirmed = false;
+    bool wait = false;
+};
+
+void run(Session& session, const Restart& restart)
+{
+    Gateway& gateway = session.gateway();
+    if (!restart.confirmed)
+        session.confirm(QString::fromLatin1(restart.question).arg(gateway.address()));
+    const int duration = gateway.ask(QString::fromLatin1(restart.what), [&](auto& error) {
+        return (gateway.general().*restart.operation)(error);
+    });
+    if (restart.wait)
+        waitUntilBack(gateway.address(), duration);
+    session.output().print(
+        {{QStringLiteral("durationMs"), QStringLiteral("Takes about (ms)"), duration},
+         {QStringLiteral("back"), QStringLiteral("Answers again"), restart.wait}});
+}
+
+} // namespace
+
+void addRestartCommands(CLI::App& app, Session& session)
+{
+    const Restart restarts[] = {
+        {"reboot", "Restart the gateway", "Restart the gateway at %1?", "restart the gateway",
+         &AspGeneralSettingsFacade::rebootCpe},
+        {"factory-reset", "Reset the gateway to its factory settings, which loses all settings",
+         "Reset the gateway at %1 to its factory settings? All its settings are lost.",
+         "reset the gateway", &AspGeneralSettingsFacade::factoryDefault}};
+    for (const Restart& row : restarts) {
+        auto* command = app.add_subcommand(row.name, row.help);
+        const auto restart = std::make_shared<Restart>(row);
+        command->add_flag("-y,--yes", restart->confirmed, "Don't ask");
+        command->add_flag("--wait", restart->wait, "Wait until the gateway answers again");
+        command->callback([&session, restart] { run(session, *restart); });
+    }
+}
+
+} // namespace quorvelctl
