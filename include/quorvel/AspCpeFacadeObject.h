@@ -11,6 +11,7 @@
 namespace quorvel
 {
 
+class AspAdslSettingsFacade;
 class AspGeneralSettingsFacade;
 class Cpe;
 
@@ -80,6 +81,13 @@ public:
     boost::shared_ptr<AspGeneralSettingsFacade> getGeneralSettingsFacade(int* result);
     /// The same without telling why it is empty.
     boost::shared_ptr<AspGeneralSettingsFacade> getGeneralSettingsFacade();
+
+    /// A new facade on the gateway's internet connection, over DSL or over Ethernet. Empty if the
+    /// gateway can't be recognised (`result`, unless null, then holds -1) or has neither a DSL line
+    /// nor an Ethernet WAN (`result` holds 0).
+    boost::shared_ptr<AspAdslSettingsFacade> getAdslSettingsFacade(int* result);
+    /// The same without telling why it is empty.
+    boost::shared_ptr<AspAdslSettingsFacade> getAdslSettingsFacade();
 
     /// Ends the waits of all requests that are under way on this gateway, through whichever facade
     /// or thread, newer radios excepted; they fail with AspWebAppRequestFailed within 100 ms. May
