@@ -73,7 +73,7 @@ bool AspAdslImplementorV1::getRfc2684Encapsulation(const QString& instance, Para
 
 bool AspAdslImplementorV1::getRfc2684VdslSupport(const QString&, ParamMap& result)
 {
-    // Gateways answer it for the line as a whole, in the first instance only.
+    // Asked of the first instance whatever the caller names, on purpose.
     return run({query(rfc26840, vdslSupport)}, result);
 }
 

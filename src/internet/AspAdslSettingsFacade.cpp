@@ -108,7 +108,7 @@ AspRussianPppoxSettings AspAdslSettingsFacade::getRussianPppoxSettings(const QSt
                                                                        AspWebAppErrorCodes& error)
 {
     using R = AspRussianPppoxSettings;
-    // The lines name another method and another record; hosts' log filters know them so.
+    // The lines name another method and another record on purpose: logged texts stay as they are.
     return fetchRecord<R>(
         *this, error, instance,
         {&I::getPppoxSettings,

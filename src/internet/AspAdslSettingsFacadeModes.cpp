@@ -112,8 +112,8 @@ bool AspAdslSettingsFacade::getRfc2684VdslSupport(const QString& instance,
     fetchUnjudged(
         *this, error, internet(&AdslSettingsImplementor::getRfc2684VdslSupport, instance),
         [&](const ParamMap& reply) {
-            // Looked for without an instance in front, unlike every other entry: hosts rely on the
-            // answer being no.
+            // Looked for without an instance in front, unlike every other entry, so that what
+            // gateways answer isn't found: the result is no, on purpose.
             const QString text = reply.value(wire::vdslSupport, QStringLiteral("false"));
             logDebug(QLatin1String("AspAdslSettingsFacade::getRfc2684VdslSupport -> VdslSupport:") +
                      text);

@@ -34,8 +34,8 @@ auto logged(const QString& done, const char* failureLine)
 
 } // namespace
 
-// Both lines tell the host's whole record, whatever part of it the link type sends, and hosts read
-// them with the labels that they have.
+// Both lines tell the host's whole record, whatever part of it the link type sends. That labels
+// repeat, and name other things than they stand for, is on purpose: logged texts stay as they are.
 
 bool AspAdslSettingsFacade::setAdslSettings(const QString& wanInstance, const QString& dslInstance,
                                             const AspAdslSettings& settings,
