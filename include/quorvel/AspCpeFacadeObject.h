@@ -11,6 +11,7 @@
 namespace quorvel
 {
 
+class AspAdslSettingsFacade;
 class AspGeneralSettingsFacade;
 class AspWanSettingsFacade;
 class Cpe;
@@ -81,6 +82,13 @@ public:
     boost::shared_ptr<AspGeneralSettingsFacade> getGeneralSettingsFacade(int* result);
     /// The same without telling why it is empty.
     boost::shared_ptr<AspGeneralSettingsFacade> getGeneralSettingsFacade();
+
+    /// A new facade on the gateway's internet connection, over DSL or over Ethernet. Empty if the
+    /// gateway can't be recognised (`result`, unless null, then holds -1) or has neither a DSL line
+    /// nor an Ethernet WAN (`result` holds 0).
+    boost::shared_ptr<AspAdslSettingsFacade> getAdslSettingsFacade(int* result);
+    /// The same without telling why it is empty.
+    boost::shared_ptr<AspAdslSettingsFacade> getAdslSettingsFacade();
 
     /// A new facade on the gateway's WAN objects, under the same rules.
     boost::shared_ptr<AspWanSettingsFacade> getWanSettingsFacade(int* result);

@@ -1,5 +1,6 @@
 #include <quorvel/AspCpeFacadeObject.h>
 
+#include <quorvel/AspAdslSettingsFacade.h>
 #include <quorvel/AspGeneralSettingsFacade.h>
 #include <quorvel/AspWanSettingsFacade.h>
 
@@ -226,6 +227,21 @@ boost::shared_ptr<AspGeneralSettingsFacade> AspCpeFacadeObject::getGeneralSettin
 boost::shared_ptr<AspGeneralSettingsFacade> AspCpeFacadeObject::getGeneralSettingsFacade()
 {
     return getGeneralSettingsFacade(nullptr);
+}
+
+boost::shared_ptr<AspAdslSettingsFacade> AspCpeFacadeObject::getAdslSettingsFacade(int* result)
+{
+    return makeFacade<AspAdslSettingsFacade>(
+        result,
+        [](const AspCpeProperties& found) {
+            return !found.adslVersion.isEmpty() || !found.ethernetVersion.isEmpty();
+        },
+        "AspCpeFacadeObject::getAdslSettingsFacade -> AdslVersion is invalid.");
+}
+
+boost::shared_ptr<AspAdslSettingsFacade> AspCpeFacadeObject::getAdslSettingsFacade()
+{
+    return getAdslSettingsFacade(nullptr);
 }
 
 boost::shared_ptr<AspWanSettingsFacade> AspCpeFacadeObject::getWanSettingsFacade(int* result)

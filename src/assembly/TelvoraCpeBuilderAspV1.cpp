@@ -1,6 +1,7 @@
 #include "assembly/TelvoraCpeBuilderAspV1.h"
 
 #include "general/AspGeneralSettingsImplV1.h"
+#include "internet/AspAdslImplementorV1.h"
 #include "protocol/AspRequestFormatterV1.h"
 #include "protocol/AspRequestFormatterV2.h"
 #include "protocol/AspResponseParserV1.h"
@@ -19,6 +20,9 @@ bool TelvoraCpeBuilderAspV1::buildSettingsImplementors()
         return false;
     const boost::shared_ptr<Cpe> cpe = getCpe();
     const ParamMap& parameters = *cpe->getParameters();
+    if (parameters.contains(CPE_PARAM_ADSL_VERSION) ||
+        parameters.contains(CPE_PARAM_ETHERNET_VERSION))
+        cpe->setAdslImplementor(boost::make_shared<AspAdslImplementorV1>());
     if (parameters.contains(CPE_PARAM_GENERAL_SETTINGS_VERSION))
         cpe->setGeneralImplementor(boost::make_shared<AspGeneralSettingsImplV1>());
     if (parameters.value(CPE_PARAM_WAN_VERSION) == QLatin1String("1"))
