@@ -4,13 +4,25 @@
 
 #include <QNetworkProxy>
 #include <QTimer>
+#include <algorithm>
 
 namespace quorvel
 {
 
-bool NetworkExchange::OneWayBuffer::seek(qint64)
+void NetworkExchange::OneWayBody::load(const QByteArray& content)
 {
-    return false;
+    bytes = content;
+    open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+}
+
+qint64 NetworkExchange::OneWayBody::readData(char* data, qint64 most)
+{
+    const qint64 count = qMin(most, bytesAvailable());
+    if (count == 0)
+        return -1;
+    std::copy_n(bytes.constData() + taken, count, data);
+    taken += count;
+    return count;
 }
 
 NetworkExchange::NetworkExchange(const AbortSignal* abortSignal) : abortSignal(abortSignal)
@@ -39,9 +51,8 @@ NetworkExchange::Ending NetworkExchange::post(QNetworkRequest request, const QBy
     // A sequential body goes out without being copied first only if its length is known.
     request.setHeader(QNetworkRequest::ContentLengthHeader, body.size());
     request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
-    buffer.setData(body);
-    buffer.open(QIODevice::ReadOnly);
-    return waitFor(manager.post(request, &buffer), limitMs);
+    outgoing.load(body);
+    return waitFor(manager.post(request, &outgoing), limitMs);
 }
 
 NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limitMs)

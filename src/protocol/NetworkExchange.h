@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QBuffer>
 #include <QByteArray>
 #include <QEventLoop>
+#include <QIODevice>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
@@ -44,12 +44,23 @@ public:
 
 private:
     /// Can't be read twice, so that Qt can't send the request a second time by itself, which it
-    /// does with a rewindable body when the head of the reply is cut or garbled.
-    class OneWayBuffer : public QBuffer
+    /// does with a rewindable body when the head of the reply is cut or garbled. No QBuffer, nor
+    /// derived from one: Qt reads such a device's bytes past all that it overrides.
+    class OneWayBody : public QIODevice
     {
     public:
+        void load(const QByteArray& content);
         bool isSequential() const override { return true; }
-        bool seek(qint64 position) override;
+        bool reset() override { return false; }
+        qint64 bytesAvailable() const override { return bytes.size() - taken; }
+
+    protected:
+        qint64 readData(char* data, qint64 most) override;
+        qint64 writeData(const char*, qint64) override { return -1; }
+
+    private:
+        QByteArray bytes;
+        qint64 taken = 0;
     };
 
     Ending waitFor(QNetworkReply* reply, int limitMs);
@@ -57,7 +68,7 @@ private:
 
     const AbortSignal* abortSignal;
     QByteArray received;
-    OneWayBuffer buffer;
+    OneWayBody outgoing;
     QNetworkAccessManager manager;
     QEventLoop loop;
     QNetworkReply* pending = nullptr;
