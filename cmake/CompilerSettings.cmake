@@ -22,3 +22,9 @@ function(quorvel_own_target target)
         target_link_options(${target} PRIVATE -fsanitize=${QUORVEL_SANITIZE})
     endif()
 endfunction()
+
+# Tests are compiled once and run for seconds: time spent on optimising them is lost.
+function(quorvel_test_target target)
+    quorvel_own_target(${target})
+    target_compile_options(${target} PRIVATE -O0 -g0)
+endfunction()
