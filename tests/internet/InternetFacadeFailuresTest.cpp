@@ -99,9 +99,9 @@ TEST_P(InternetFailure, GivesTheDefaultOnAGatewayWithoutTheFamily)
     expectDefault(facade, 0, lines({GetParam().failureLine}));
 }
 
-TEST_P(InternetFailure, GivesTheDefaultIfTheReplyBreaksOff)
+TEST_P(InternetFailure, GivesTheDefaultIfTheRequestFails)
 {
-    gateway.sendRaw(brokenReply);
+    gateway.sendRaw(failedReply);
     expectDefault(facade, 29, lines({GetParam().failureLine}));
 }
 
