@@ -9,8 +9,10 @@
 namespace quorvel::test
 {
 
-/// A reply that breaks off: a request that fails in transport, on one connection.
-inline const QByteArray brokenReply = "HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n<response>";
+/// A reply by which a request fails in transport, on one connection: unlike one that breaks off, it
+/// never makes Qt connect again.
+inline const QByteArray failedReply =
+    "HTTP/1.1 500 Internal Server Error\r\nContent-Length: 0\r\n\r\n";
 
 /// A facade on the newest kind of gateway.
 template <typename Facade>
