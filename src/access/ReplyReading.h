@@ -2,6 +2,8 @@
 
 #include <quorvel/ParamMap.h>
 
+#include "protocol/ParamKeys.h"
+
 #include <QLatin1String>
 #include <QList>
 #include <QString>
@@ -10,12 +12,6 @@
 
 namespace quorvel
 {
-
-/// The name under which an entry of an instance stands in a reply.
-inline QString replyKey(const QString& instance, const QString& entry)
-{
-    return instance + QLatin1Char('.') + entry;
-}
 
 /// Whether a flag of a reply is set; one that the reply lacks is not.
 inline bool isSet(const ParamMap& reply, const QString& key)

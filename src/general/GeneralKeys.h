@@ -20,7 +20,6 @@ inline constexpr QLatin1String factoryDefault("factory_default");
 inline constexpr QLatin1String rebootDuration("reboot_duration");
 inline constexpr QLatin1String fwupgradeDuration("fwupgrade_duration");
 inline constexpr QLatin1String routerMode("router_mode");
-inline constexpr QLatin1String password("password");
 inline constexpr QLatin1String applyUserInfo("apply_user_info");
 inline constexpr QLatin1String checkAdminPassword("check_admin_password");
 inline constexpr QLatin1String adminPassword("admin_password");

@@ -99,9 +99,18 @@ inline Command apply(const QString& inst)
 /// A transaction that reads `keys` of `inst`.
 CommandList readTransaction(const QString& inst, std::initializer_list<QString> keys);
 
+/// Keys of an object and what is written to them, in order.
+using Values = std::vector<std::pair<QString, QString>>;
+
 /// A transaction that writes keys of `inst` and commits them; saving and applying is the caller's.
-CommandList writeTransaction(const QString& inst,
-                             std::initializer_list<std::pair<QString, QString>> values);
+CommandList writeTransaction(const QString& inst, const Values& values);
+
+/// A write that is put into effect at once.
+CommandList writeAndApply(const QString& inst, const Values& values);
+
+/// Writes to several objects whose transactions are opened one after the other and stay open
+/// together, to be committed, ended and applied in passes of the same order.
+CommandList writeTogether(const std::vector<std::pair<QString, Values>>& objects);
 
 } // namespace wire
 

@@ -19,4 +19,10 @@ inline const QString AUTH_PARAM_LOGINRESULT = QStringLiteral("AUTH_PARAM_LOGINRE
 inline const QString webappErrorKey = QStringLiteral("webapp.error");
 inline const QString responseKey = QStringLiteral("response");
 
+/// The name under which an entry of an instance stands in a map.
+inline QString replyKey(const QString& instance, const QString& entry)
+{
+    return instance + QLatin1Char('.') + entry;
+}
+
 } // namespace quorvel

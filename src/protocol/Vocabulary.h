@@ -88,6 +88,10 @@ inline constexpr QLatin1String instList("inst_list");
 // Keys that several families use.
 inline constexpr QLatin1String enabled("enabled");
 inline constexpr QLatin1String defaultGw("default_gw");
+inline constexpr QLatin1String entities("entities");
+inline constexpr QLatin1String linktype("linktype");
+inline constexpr QLatin1String localip("localip");
+inline constexpr QLatin1String password("password");
 inline constexpr QLatin1String settings("settings");
 inline constexpr QLatin1String type("type");
 

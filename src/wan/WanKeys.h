@@ -7,16 +7,13 @@ namespace quorvel::wire
 {
 
 inline constexpr QLatin1String l2type("l2type");
-inline constexpr QLatin1String linktype("linktype");
 inline constexpr QLatin1String linkstate("linkstate");
 inline constexpr QLatin1String dslLinkStatus("dslLinkStatus");
 inline constexpr QLatin1String aliasDefaultGw("alias_default_gw");
 inline constexpr QLatin1String defGwStatus("def_gw_status");
 inline constexpr QLatin1String internetConnection("internet_connection");
 inline constexpr QLatin1String supportedLinkTypes("SupportedLinkTypes");
-inline constexpr QLatin1String entities("entities");
 inline constexpr QLatin1String isconnected("isconnected");
-inline constexpr QLatin1String localip("localip");
 inline constexpr QLatin1String createInst("create_inst");
 inline constexpr QLatin1String startInst("start_inst");
 inline constexpr QLatin1String stopInst("stop_inst");
