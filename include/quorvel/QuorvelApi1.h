@@ -14,6 +14,13 @@
 #include <quorvel/AspFacade.h>
 #include <quorvel/AspGeneralSettingsFacade.h>
 #include <quorvel/AspGwInternetConnection.h>
+#include <quorvel/AspUsbHostDevices.h>
+#include <quorvel/AspUsbHostSettingsFacade.h>
+#include <quorvel/AspVoipAccount.h>
+#include <quorvel/AspVoipCallHistory.h>
+#include <quorvel/AspVoipCallHistoryFilter.h>
+#include <quorvel/AspVoipSettings.h>
+#include <quorvel/AspVoipSettingsFacade.h>
 #include <quorvel/AspWanDetails.h>
 #include <quorvel/AspWanSettingsFacade.h>
 #include <quorvel/AspWebAppErrorCodes.h>

@@ -5,6 +5,9 @@
 #include "protocol/AspRequestFormatterV2.h"
 #include "protocol/AspResponseParserV1.h"
 #include "protocol/AspResponseParserV2.h"
+#include "usbhost/AspUsbHostSettingsImplementorV1.h"
+#include "voice/AspVoipImplementorV1.h"
+#include "voice/AspVoipImplementorV2.h"
 #include "wan/AspWanSettingsImplementorV1.h"
 #include "wan/AspWanSettingsImplementorV2.h"
 
@@ -19,12 +22,18 @@ bool TelvoraCpeBuilderAspV1::buildSettingsImplementors()
         return false;
     const boost::shared_ptr<Cpe> cpe = getCpe();
     const ParamMap& parameters = *cpe->getParameters();
+    if (parameters.value(CPE_PARAM_VOIP_VERSION) == QLatin1String("1"))
+        cpe->setVoipImplementor(boost::make_shared<AspVoipImplementorV1>());
+    else if (parameters.contains(CPE_PARAM_VOIP_VERSION))
+        cpe->setVoipImplementor(boost::make_shared<AspVoipImplementorV2>());
     if (parameters.contains(CPE_PARAM_GENERAL_SETTINGS_VERSION))
         cpe->setGeneralImplementor(boost::make_shared<AspGeneralSettingsImplV1>());
     if (parameters.value(CPE_PARAM_WAN_VERSION) == QLatin1String("1"))
         cpe->setWanImplementor(boost::make_shared<AspWanSettingsImplementorV1>());
     else if (parameters.contains(CPE_PARAM_WAN_VERSION))
         cpe->setWanImplementor(boost::make_shared<AspWanSettingsImplementorV2>());
+    if (parameters.contains(CPE_PARAM_USBHOST_VERSION))
+        cpe->setUsbHostImplementor(boost::make_shared<AspUsbHostSettingsImplementorV1>());
     return true;
 }
 
