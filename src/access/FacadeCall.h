@@ -42,12 +42,16 @@ public:
     {
         // Kept for the length of the call, whatever happens to the gateway's handle meanwhile.
         const auto implementor = std::invoke(family, *facade.cpe);
+        asked = asked || implementor;
         return implementor &&
                std::invoke(operation, *implementor, std::forward<Inputs>(inputs)..., answer);
     }
 
     /// What came back so far.
     ParamMap& reply() { return answer; }
+
+    /// Whether a family was asked and nothing came back, not even the trace of a failure.
+    bool lostReply() const { return asked && answer.isEmpty(); }
 
     /// Overwrites the error with what the reply says.
     void reportError() { error = facade.getErrorCode(answer); }
@@ -56,6 +60,7 @@ private:
     AspFacade& facade;
     AspWebAppErrorCodes& error;
     ParamMap answer;
+    bool asked = false;
     bool permitted;
 };
 
@@ -127,6 +132,19 @@ bool change(AspFacade& facade, AspWebAppErrorCodes& error, Request request, Sett
         return false;
     const bool done = request(call);
     settle(done);
+    call.reportError();
+    return done;
+}
+
+/// A setter for which a lost reply counts as success: false only if the request failed and left a
+/// trace, or could not be made at all.
+template <typename Request>
+bool changeUnlessDenied(AspFacade& facade, AspWebAppErrorCodes& error, Request request)
+{
+    FacadeCall call(facade, error);
+    if (!call.isPermitted())
+        return false;
+    const bool done = request(call) || call.lostReply();
     call.reportError();
     return done;
 }

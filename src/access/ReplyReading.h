@@ -26,13 +26,14 @@ struct TextField {
     QString Record::*member;
 };
 
-/// Fills a record's texts from the entries whose names start with `prefix`, by the record's table.
-/// An entry that the reply lacks gives an empty text.
+/// Fills a record's texts from the entries whose names start with `prefix` and, in a numbered list,
+/// end with `number`, by the record's table. An entry that the reply lacks gives an empty text.
 template <typename Record, typename Table>
-void readTexts(Record& record, const Table& fields, const ParamMap& reply, const QString& prefix)
+void readTexts(Record& record, const Table& fields, const ParamMap& reply, const QString& prefix,
+               const QString& number = QString())
 {
     for (const TextField<Record>& field : fields)
-        record.*field.member = reply.value(prefix + QLatin1String(field.entry));
+        record.*field.member = reply.value(prefix + QLatin1String(field.entry) + number);
 }
 
 /// A word of the gateway's and the enumerator that it stands for.
