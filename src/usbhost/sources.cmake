@@ -1,1 +1,3 @@
-target_sources(QuorvelApi1Objects PRIVATE)
+target_sources(QuorvelApi1Objects PRIVATE
+    usbhost/AspUsbHostSettingsFacade.cpp
+    usbhost/AspUsbHostSettingsImplementorV1.cpp)
