@@ -13,6 +13,8 @@ namespace quorvel
 
 class AspAdslSettingsFacade;
 class AspGeneralSettingsFacade;
+class AspUsbHostSettingsFacade;
+class AspVoipSettingsFacade;
 class AspWanSettingsFacade;
 class Cpe;
 
@@ -94,6 +96,16 @@ public:
     boost::shared_ptr<AspWanSettingsFacade> getWanSettingsFacade(int* result);
     /// The same without telling why it is empty.
     boost::shared_ptr<AspWanSettingsFacade> getWanSettingsFacade();
+
+    /// A new facade on the gateway's telephony, under the same rules.
+    boost::shared_ptr<AspVoipSettingsFacade> getVoipSettingsFacade(int* result);
+    /// The same without telling why it is empty.
+    boost::shared_ptr<AspVoipSettingsFacade> getVoipSettingsFacade();
+
+    /// A new facade on the gateway's USB host port, under the same rules.
+    boost::shared_ptr<AspUsbHostSettingsFacade> getUsbHostSettingsFacade(int* result);
+    /// The same without telling why it is empty.
+    boost::shared_ptr<AspUsbHostSettingsFacade> getUsbHostSettingsFacade();
 
     /// Ends the waits of all requests that are under way on this gateway, through whichever facade
     /// or thread, newer radios excepted; they fail with AspWebAppRequestFailed within 100 ms. May

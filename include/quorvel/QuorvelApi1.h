@@ -25,6 +25,13 @@
 #include <quorvel/AspRfc2684Encapsulation.h>
 #include <quorvel/AspRussianPppoxSettings.h>
 #include <quorvel/AspStaticSettings.h>
+#include <quorvel/AspUsbHostDevices.h>
+#include <quorvel/AspUsbHostSettingsFacade.h>
+#include <quorvel/AspVoipAccount.h>
+#include <quorvel/AspVoipCallHistory.h>
+#include <quorvel/AspVoipCallHistoryFilter.h>
+#include <quorvel/AspVoipSettings.h>
+#include <quorvel/AspVoipSettingsFacade.h>
 #include <quorvel/AspVpnSettings.h>
 #include <quorvel/AspWanDetails.h>
 #include <quorvel/AspWanSettingsFacade.h>

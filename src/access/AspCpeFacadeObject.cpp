@@ -2,6 +2,8 @@
 
 #include <quorvel/AspAdslSettingsFacade.h>
 #include <quorvel/AspGeneralSettingsFacade.h>
+#include <quorvel/AspUsbHostSettingsFacade.h>
+#include <quorvel/AspVoipSettingsFacade.h>
 #include <quorvel/AspWanSettingsFacade.h>
 
 #include "assembly/Cpe.h"
@@ -254,6 +256,31 @@ boost::shared_ptr<AspWanSettingsFacade> AspCpeFacadeObject::getWanSettingsFacade
 boost::shared_ptr<AspWanSettingsFacade> AspCpeFacadeObject::getWanSettingsFacade()
 {
     return getWanSettingsFacade(nullptr);
+}
+
+boost::shared_ptr<AspVoipSettingsFacade> AspCpeFacadeObject::getVoipSettingsFacade(int* result)
+{
+    return makeFacade<AspVoipSettingsFacade>(
+        result, [](const AspCpeProperties& found) { return !found.voipVersion.isEmpty(); },
+        "AspCpeFacadeObject::getVoipSettingsFacade -> VoipVersion is invalid.");
+}
+
+boost::shared_ptr<AspVoipSettingsFacade> AspCpeFacadeObject::getVoipSettingsFacade()
+{
+    return getVoipSettingsFacade(nullptr);
+}
+
+boost::shared_ptr<AspUsbHostSettingsFacade> AspCpeFacadeObject::getUsbHostSettingsFacade(
+    int* result)
+{
+    return makeFacade<AspUsbHostSettingsFacade>(
+        result, [](const AspCpeProperties& found) { return !found.usbHostVersion.isEmpty(); },
+        "AspCpeFacadeObject::getUsbHostSettingsFacade -> UsbHostVersion is invalid.");
+}
+
+boost::shared_ptr<AspUsbHostSettingsFacade> AspCpeFacadeObject::getUsbHostSettingsFacade()
+{
+    return getUsbHostSettingsFacade(nullptr);
 }
 
 void AspCpeFacadeObject::abortPendingRequests()

@@ -6,6 +6,9 @@
 #include "protocol/AspRequestFormatterV2.h"
 #include "protocol/AspResponseParserV1.h"
 #include "protocol/AspResponseParserV2.h"
+#include "usbhost/AspUsbHostSettingsImplementorV1.h"
+#include "voice/AspVoipImplementorV1.h"
+#include "voice/AspVoipImplementorV2.h"
 #include "wan/AspWanSettingsImplementorV1.h"
 #include "wan/AspWanSettingsImplementorV2.h"
 
@@ -23,12 +26,18 @@ bool TelvoraCpeBuilderAspV1::buildSettingsImplementors()
     if (parameters.contains(CPE_PARAM_ADSL_VERSION) ||
         parameters.contains(CPE_PARAM_ETHERNET_VERSION))
         cpe->setAdslImplementor(boost::make_shared<AspAdslImplementorV1>());
+    if (parameters.value(CPE_PARAM_VOIP_VERSION) == QLatin1String("1"))
+        cpe->setVoipImplementor(boost::make_shared<AspVoipImplementorV1>());
+    else if (parameters.contains(CPE_PARAM_VOIP_VERSION))
+        cpe->setVoipImplementor(boost::make_shared<AspVoipImplementorV2>());
     if (parameters.contains(CPE_PARAM_GENERAL_SETTINGS_VERSION))
         cpe->setGeneralImplementor(boost::make_shared<AspGeneralSettingsImplV1>());
     if (parameters.value(CPE_PARAM_WAN_VERSION) == QLatin1String("1"))
         cpe->setWanImplementor(boost::make_shared<AspWanSettingsImplementorV1>());
     else if (parameters.contains(CPE_PARAM_WAN_VERSION))
         cpe->setWanImplementor(boost::make_shared<AspWanSettingsImplementorV2>());
+    if (parameters.contains(CPE_PARAM_USBHOST_VERSION))
+        cpe->setUsbHostImplementor(boost::make_shared<AspUsbHostSettingsImplementorV1>());
     return true;
 }
 
