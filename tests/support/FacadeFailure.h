@@ -53,7 +53,7 @@ protected:
         EXPECT_EQ(this->gateway.connections(), 0);
     }
 
-    void expectDefaultIfTheReplyBreaksOff()
+    void expectDefaultIfTheRequestFails()
     {
         for (int i = 0; i < this->GetParam().exchanges; ++i)
             this->gateway.sendRaw(failedReply);

@@ -63,9 +63,9 @@ TEST_P(VoiceFailure, GivesTheDefaultOnAGatewayWithoutTelephony)
     expectDefaultWithoutFamily();
 }
 
-TEST_P(VoiceFailure, GivesTheDefaultIfTheReplyBreaksOff)
+TEST_P(VoiceFailure, GivesTheDefaultIfTheRequestFails)
 {
-    expectDefaultIfTheReplyBreaksOff();
+    expectDefaultIfTheRequestFails();
 }
 
 TEST_P(VoiceFailure, GivesTheDefaultIfTheReplyIsUnreadable)
