@@ -108,9 +108,10 @@ public:
     boost::shared_ptr<AspUsbHostSettingsFacade> getUsbHostSettingsFacade();
 
     /// Ends the waits of all requests that are under way on this gateway, through whichever facade
-    /// or thread, newer radios excepted; they fail with AspWebAppRequestFailed within 100 ms. May
-    /// be called from any thread, as long as this object is not being recognised, changed or
-    /// destroyed meanwhile. Later requests are not affected.
+    /// or thread, newer radios excepted; they fail with AspWebAppRequestFailed within 100 ms, or if
+    /// they were logging in, as told at AspWebAppNoError. Recognition, setAuthenticationInfo and
+    /// loginToCpe run to their end. May be called from any thread, as long as this object is not
+    /// being recognised, changed or destroyed meanwhile. Later requests are not affected.
     void abortPendingRequests();
 
     /// Whether something answers plain HTTP at `address` without an error: one GET of its start

@@ -3,6 +3,7 @@
 #include <quorvel/AspGeneralSettingsFacade.h>
 
 #include "protocol/AspCpeSessionStorage.h"
+#include "support/OneInstance.h"
 #include "support/RecognisedGateway.h"
 #include "support/Replies.h"
 
@@ -41,15 +42,7 @@ protected:
 
 TEST_F(FlyweightFactory, IsOneForAllThreads)
 {
-    std::vector<boost::shared_ptr<AspCpeFlyweightFactory>> seen(8);
-    std::vector<std::thread> threads;
-    for (auto& instance : seen)
-        threads.emplace_back([&instance] { instance = AspCpeFlyweightFactory::getInstance(); });
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_TRUE(seen[0]);
-    for (const auto& instance : seen)
-        EXPECT_EQ(instance, seen[0]);
+    expectOneInstanceForAllThreads<AspCpeFlyweightFactory>();
 }
 
 TEST_F(FlyweightFactory, GivesTheSameObjectForAKnownKeyAndSendsNothing)

@@ -8,6 +8,7 @@
 #include "protocol/AspResponseParserV2.h"
 #include "protocol/HttpRequestExecutor.h"
 #include "support/BuiltGateway.h"
+#include "support/OneInstance.h"
 #include "support/Text.h"
 #include "usbhost/UsbHostSettingsImplementor.h"
 #include "voice/VoipSettingsImplementor.h"
@@ -241,15 +242,7 @@ TEST(CpeBuilderFactory, MakesANewBuilderForEveryOtherType)
 
 TEST(CpeBuilderFactory, IsOneForAllThreads)
 {
-    std::vector<boost::shared_ptr<CpeBuilderFactory>> seen(8);
-    std::vector<std::thread> threads;
-    for (auto& instance : seen)
-        threads.emplace_back([&instance] { instance = CpeBuilderFactory::getInstance(); });
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_TRUE(seen[0]);
-    for (const auto& instance : seen)
-        EXPECT_EQ(instance, seen[0]);
+    expectOneInstanceForAllThreads<CpeBuilderFactory>();
 }
 
 } // namespace quorvel::test

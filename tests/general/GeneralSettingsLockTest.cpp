@@ -7,6 +7,7 @@
 #include <QWaitCondition>
 #include <functional>
 #include <ostream>
+#include <thread>
 
 namespace quorvel::test
 {
@@ -33,6 +34,11 @@ public:
         const QDeadlineTimer deadline(10000);
         while (most < expected && changed.wait(&mutex, deadline)) {
         }
+        // Room for requests that nothing keeps out.
+        locker.unlock();
+        for (int i = 0; i < 100; ++i)
+            std::this_thread::yield();
+        locker.relock();
         --underWay;
         result = {{text("REQUEST_EXEC_PARAM_RESULT"), text("<response/>")}};
         return 0;
