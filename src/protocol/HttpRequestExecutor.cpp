@@ -65,14 +65,14 @@ QNetworkRequest requestFor(const ParamMap& params)
     return request;
 }
 
-int statusOf(NetworkExchange::Ending ending, const QNetworkReply& reply)
+int statusOf(NetworkExchange::Ending ending, QNetworkReply::NetworkError error)
 {
     if (ending == NetworkExchange::Ending::TimedOut)
         return RequestTimedOut;
     // An application that quits leaves a reply without an error, and without a body.
     if (ending == NetworkExchange::Ending::BrokenOff)
         return RequestNetworkFailure;
-    switch (reply.error()) {
+    switch (error) {
     case QNetworkReply::NoError:
         return RequestSucceeded;
     case QNetworkReply::TimeoutError:
@@ -134,7 +134,7 @@ int HttpRequestExecutor::exchange(const ParamMap& params, ParamMap& result)
     NetworkExchange exchange(&abortSignal);
     const auto ending =
         exchange.post(requestFor(params), params.value(HTTP_PARAM_DATA_TO_SEND).toUtf8(), limitMs);
-    const int status = statusOf(ending, exchange.reply());
+    const int status = statusOf(ending, exchange.error());
     if (status == RequestSucceeded)
         result = contentOf(exchange);
     return status;

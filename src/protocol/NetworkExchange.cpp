@@ -4,13 +4,47 @@
 
 #include <QNetworkProxy>
 #include <QTimer>
+#include <algorithm>
 
 namespace quorvel
 {
 
-bool NetworkExchange::OneWayBuffer::seek(qint64)
+namespace
 {
-    return false;
+
+bool endsWithConnection(const QNetworkReply& reply)
+{
+    const QVariant status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute);
+    return status.isValid() && status.toInt() < 400 && !reply.hasRawHeader("Content-Length") &&
+           !reply.hasRawHeader("Transfer-Encoding");
+}
+
+} // namespace
+
+void NetworkExchange::OneWayBody::setContent(const QByteArray& content)
+{
+    rest = content;
+    open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+}
+
+qint64 NetworkExchange::OneWayBody::bytesAvailable() const
+{
+    return rest.size() + QIODevice::bytesAvailable();
+}
+
+qint64 NetworkExchange::OneWayBody::readData(char* data, qint64 maxSize)
+{
+    const int size = static_cast<int>(qMin<qint64>(maxSize, rest.size()));
+    if (size == 0)
+        return -1;
+    std::copy_n(rest.constData(), size, data);
+    rest.remove(0, size);
+    return size;
+}
+
+qint64 NetworkExchange::OneWayBody::writeData(const char*, qint64)
+{
+    return -1;
 }
 
 NetworkExchange::NetworkExchange(const AbortSignal* abortSignal) : abortSignal(abortSignal)
@@ -39,9 +73,22 @@ NetworkExchange::Ending NetworkExchange::post(QNetworkRequest request, const QBy
     // A sequential body goes out without being copied first only if its length is known.
     request.setHeader(QNetworkRequest::ContentLengthHeader, body.size());
     request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
-    buffer.setData(body);
-    buffer.open(QIODevice::ReadOnly);
-    return waitFor(manager.post(request, &buffer), limitMs);
+    sent.setContent(body);
+    return waitFor(manager.post(request, &sent), limitMs);
+}
+
+QNetworkReply::NetworkError NetworkExchange::error() const
+{
+    const QNetworkReply::NetworkError error = pending->error();
+    // Where the close of the connection is the end of the reply, Qt takes it now and then for a
+    // reason to repeat the request, although it has handed out the reply already.
+    if (error == QNetworkReply::ContentReSendError && endsWithConnection(*pending))
+        return QNetworkReply::NoError;
+    // For a connection that breaks under the request Qt has neither a name nor, unlike for the
+    // errors that the system reports, words of its own.
+    if (error == QNetworkReply::UnknownNetworkError && pending->errorString() == sent.errorString())
+        return QNetworkReply::RemoteHostClosedError;
+    return error;
 }
 
 NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limitMs)
@@ -65,7 +112,7 @@ NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limit
     const bool brokenOff = !reply->isFinished();
     if (timedOut || brokenOff)
         reply->abort();
-    else
+    else if (reply->isOpen()) // which an aborted one is not
         receive();
     reply->deleteLater();
     if (timedOut)

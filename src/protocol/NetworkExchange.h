@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QBuffer>
 #include <QByteArray>
 #include <QEventLoop>
+#include <QIODevice>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
@@ -22,7 +22,7 @@ class NetworkExchange
 public:
     /// How the wait ended.
     enum class Ending {
-        Finished, ///< the reply is complete or failed, as its error() tells
+        Finished, ///< the reply is complete or failed, as error() tells
         TimedOut, ///< the limit has passed
         BrokenOff ///< the host's event loop was told to quit
     };
@@ -41,15 +41,28 @@ public:
     /// Valid after get or post, as long as the exchange lives.
     const QNetworkReply& reply() const { return *pending; }
     const QByteArray& body() const { return received; }
+    /// The reply's error, but for those that Qt finds by mistake or can't name.
+    QNetworkReply::NetworkError error() const;
 
 private:
     /// Can't be read twice, so that Qt can't send the request a second time by itself, which it
-    /// does with a rewindable body when the head of the reply is cut or garbled.
-    class OneWayBuffer : public QBuffer
+    /// does when the connection closes early. No QBuffer: Qt goes past its back and rewinds it.
+    class OneWayBody : public QIODevice
     {
     public:
+        void setContent(const QByteArray& content);
+
         bool isSequential() const override { return true; }
-        bool seek(qint64 position) override;
+        qint64 bytesAvailable() const override;
+        bool atEnd() const override { return bytesAvailable() == 0; }
+        bool reset() override { return false; }
+
+    protected:
+        qint64 readData(char* data, qint64 maxSize) override;
+        qint64 writeData(const char* data, qint64 maxSize) override;
+
+    private:
+        QByteArray rest;
     };
 
     Ending waitFor(QNetworkReply* reply, int limitMs);
@@ -57,7 +70,7 @@ private:
 
     const AbortSignal* abortSignal;
     QByteArray received;
-    OneWayBuffer buffer;
+    OneWayBody sent;
     QNetworkAccessManager manager;
     QEventLoop loop;
     QNetworkReply* pending = nullptr;
