@@ -4,6 +4,7 @@
 
 #include "support/BuiltGateway.h"
 #include "support/Golden.h"
+#include "support/Text.h"
 #include "support/Transcript.h"
 
 #include <functional>
@@ -33,10 +34,5 @@ struct CaseName {
         return info.param.name;
     }
 };
-
-inline QString text(const char* literal)
-{
-    return QString::fromUtf8(literal);
-}
 
 } // namespace quorvel::test
