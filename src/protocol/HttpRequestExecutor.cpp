@@ -69,7 +69,7 @@ int statusOf(NetworkExchange::Ending ending, QNetworkReply::NetworkError error)
 {
     if (ending == NetworkExchange::Ending::TimedOut)
         return RequestTimedOut;
-    // An application that quits leaves a reply without an error, and without a body.
+    // What is broken off has no error of its own, and no body, or too much of it.
     if (ending == NetworkExchange::Ending::BrokenOff)
         return RequestNetworkFailure;
     switch (error) {

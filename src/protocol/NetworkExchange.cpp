@@ -97,7 +97,7 @@ NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limit
     QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     QObject::connect(reply, &QNetworkReply::readyRead, &loop, [this] { receive(); });
     if (abortSignal)
-        QObject::connect(abortSignal, &AbortSignal::raised, &loop, [this] { pending->abort(); });
+        QObject::connect(abortSignal, &AbortSignal::raised, &loop, &QEventLoop::quit);
 
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);
@@ -110,21 +110,21 @@ NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limit
     const bool timedOut = !timer.isActive();
     timer.stop();
     const bool brokenOff = !reply->isFinished();
-    if (timedOut || brokenOff)
-        reply->abort();
-    else if (reply->isOpen()) // which an aborted one is not
+    if (!timedOut && !brokenOff)
         receive();
+    else if (reply->error() == QNetworkReply::NoError) // it can't take a second error
+        reply->abort();
     reply->deleteLater();
     if (timedOut)
         return Ending::TimedOut;
-    return brokenOff ? Ending::BrokenOff : Ending::Finished;
+    return brokenOff || received.size() > largestBody ? Ending::BrokenOff : Ending::Finished;
 }
 
 void NetworkExchange::receive()
 {
     received += pending->readAll();
-    if (received.size() > largestBody && pending->isRunning())
-        pending->abort();
+    if (received.size() > largestBody)
+        loop.quit();
 }
 
 } // namespace quorvel

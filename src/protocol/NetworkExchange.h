@@ -24,13 +24,13 @@ public:
     enum class Ending {
         Finished, ///< the reply is complete or failed, as error() tells
         TimedOut, ///< the limit has passed
-        BrokenOff ///< the host's event loop was told to quit
+        BrokenOff ///< aborted, too large, or the host's event loop was told to quit
     };
 
-    /// A reply body of more bytes ends the exchange as an abort does.
+    /// A reply body of more bytes breaks the exchange off.
     static constexpr int largestBody = 4 * 1024 * 1024;
 
-    /// The exchange ends early, as aborted, when `abortSignal` is raised; null for never.
+    /// The exchange is broken off when `abortSignal` is raised; null for never.
     explicit NetworkExchange(const AbortSignal* abortSignal = nullptr);
 
     static QNetworkRequest request(const QUrl& url);
