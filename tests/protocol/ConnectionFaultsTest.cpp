@@ -1,64 +1,11 @@
-#include "general/GeneralSettingsImplementor.h"
-#include "protocol/AspCpeSessionStorage.h"
 #include "protocol/Exchanges.h"
 #include "protocol/HttpRequestExecutor.h"
-#include "support/BuiltGateway.h"
+#include "support/DeafPort.h"
 
 #include <QElapsedTimer>
-#include <arpa/inet.h>
-#include <boost/make_shared.hpp>
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace quorvel::test
 {
-
-namespace
-{
-
-/// A port that is taken and that nobody serves.
-class DeafPort
-{
-public:
-    DeafPort()
-    {
-        sockets.push_back(open(0));
-        where.sin_family = AF_INET;
-        where.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t size = sizeof where;
-        EXPECT_EQ(::bind(sockets[0], address(), size), 0);
-        EXPECT_EQ(::getsockname(sockets[0], address(), &size), 0);
-    }
-
-    ~DeafPort()
-    {
-        for (const int socket : sockets)
-            ::close(socket);
-    }
-
-    /// Listens, and fills the queue of connections that wait to be accepted.
-    void fillBacklog()
-    {
-        EXPECT_EQ(::listen(sockets[0], 0), 0);
-        for (int i = 0; i < 8; ++i) {
-            sockets.push_back(open(SOCK_NONBLOCK));
-            const bool begun = ::connect(sockets.back(), address(), sizeof where) == 0;
-            EXPECT_TRUE(begun || errno == EINPROGRESS);
-        }
-    }
-
-    QString text() const { return QStringLiteral("127.0.0.1:%1").arg(ntohs(where.sin_port)); }
-
-private:
-    static int open(int flags) { return ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | flags, 0); }
-    sockaddr* address() { return reinterpret_cast<sockaddr*>(&where); }
-
-    std::vector<int> sockets;
-    sockaddr_in where{};
-};
-
-} // namespace
 
 TEST(ConnectionFault, NobodyListensAndItFailsAtOnce)
 {
@@ -66,7 +13,7 @@ TEST(ConnectionFault, NobodyListensAndItFailsAtOnce)
     HttpRequestExecutor executor;
     ParamMap result;
     for (int round = 0; round < 20; ++round)
-        EXPECT_EQ(executor.execute(requestTo(port.text()), result), 1);
+        EXPECT_EQ(executor.execute(requestTo(port.address()), result), 1);
     EXPECT_EQ(entries(result), QStringList());
 }
 
@@ -78,7 +25,7 @@ TEST(ConnectionFault, NobodyAcceptsAndItTimesOut)
     ParamMap result;
     QElapsedTimer clock;
     clock.start();
-    EXPECT_EQ(executor.execute(requestTo(port.text()), result), 2);
+    EXPECT_EQ(executor.execute(requestTo(port.address()), result), 2);
     EXPECT_GE(clock.elapsed(), 490);
 }
 
@@ -100,7 +47,8 @@ TEST(ConnectionFault, ClosedAndResetConnectionsFailAndAreNotAsked)
             EXPECT_EQ(executor.execute(requestTo(gateway.address()), result), 1);
             EXPECT_LE(gateway.requests().size() - before, 1);
         }
-        gateway.sendRaw(httpReply("<r/>"));
+        gateway.answerAllOthers(
+            [](const ReceivedRequest&, GatewayConnection& peer) { peer.send(httpReply("<r/>")); });
         EXPECT_EQ(executor.execute(requestTo(gateway.address()), result), 0);
     }
 }

@@ -137,7 +137,7 @@ TEST_F(RequestOnTheWire, SendsTheLastOfSeveralCookiesInOneCleanLine)
 
 TEST_F(RequestOnTheWire, SucceedsWithAWebPageWhereNoReplyIsExpected)
 {
-    gateway.reply(text("<html><br></html>")).sendRaw(httpReply("")).closeOnAccept();
+    gateway.reply(text("<html><br></html>")).sendRaw(httpReply("")).sendRaw("");
     EXPECT_TRUE(cpe->getGeneralImplementor()->rebootCpe(result));
     EXPECT_TRUE(cpe->getGeneralImplementor()->rebootCpe(result));
     EXPECT_EQ(entries(result), QStringList());
