@@ -2,15 +2,13 @@
 
 #include "protocol/GuardedXmlReader.h"
 
-#include <QXmlInputSource>
-
 namespace quorvel
 {
 
 QDomDocument readResponse(const QString& response, ParamMap& result)
 {
     GuardedXmlReader reader;
-    QXmlInputSource source;
+    GuardedXmlSource source;
     source.setData(response);
     // With a reader of our own texts of mere white space are kept: a blank is a value.
     QDomDocument document;

@@ -6,6 +6,7 @@ namespace quorvel
 GuardedXmlReader::GuardedXmlReader()
 {
     QXmlSimpleReader::setDeclHandler(&entityGuard);
+    QXmlSimpleReader::setDTDHandler(&entityGuard);
 }
 
 void GuardedXmlReader::setContentHandler(QXmlContentHandler* handler)
@@ -18,6 +19,8 @@ void GuardedXmlReader::setDeclHandler(QXmlDeclHandler*)
 {
     // A document tree has no use for declarations, so the guard isn't displaced by its handler.
 }
+
+void GuardedXmlReader::setDTDHandler(QXmlDTDHandler*) {}
 
 bool GuardedXmlReader::DepthGuard::startElement(const QString& namespaceUri,
                                                 const QString& localName, const QString& qName,
@@ -101,9 +104,41 @@ bool GuardedXmlReader::EntityGuard::externalEntityDecl(const QString&, const QSt
     return false;
 }
 
+bool GuardedXmlReader::EntityGuard::notationDecl(const QString&, const QString&, const QString&)
+{
+    return true;
+}
+
+bool GuardedXmlReader::EntityGuard::unparsedEntityDecl(const QString&, const QString&,
+                                                       const QString&, const QString&)
+{
+    return false;
+}
+
 QString GuardedXmlReader::EntityGuard::errorString() const
 {
     return QStringLiteral("entities are not accepted");
+}
+
+QChar GuardedXmlSource::next()
+{
+    const QChar character = QXmlInputSource::next();
+    markupPosition = character == QLatin1Char('<') ? 0 : markupPosition + 1;
+    // "<!E" opens declarations of elements, and of entities, which the reader stops at anyway.
+    if (markupPosition == 0) {
+        inElementDeclaration = false;
+        groups = 0;
+    } else if (markupPosition == 1) {
+        inElementDeclaration = character == QLatin1Char('!');
+    } else if (markupPosition == 2) {
+        inElementDeclaration = inElementDeclaration && character == QLatin1Char('E');
+    } else if (character == QLatin1Char('(')) {
+        ++groups;
+    } else if (character == QLatin1Char(')')) {
+        --groups;
+    }
+    const bool tooDeep = inElementDeclaration && groups > GuardedXmlReader::deepestLevel;
+    return tooDeep ? QChar(EndOfDocument) : character;
 }
 
 } // namespace quorvel

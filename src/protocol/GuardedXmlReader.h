@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QXmlDefaultHandler>
+#include <QXmlInputSource>
 #include <QXmlSimpleReader>
 
 namespace quorvel
@@ -8,7 +9,7 @@ namespace quorvel
 
 /// A reader that stops at what no gateway sends and no document tree survives: elements nested too
 /// deeply, whose tree would be walked recursively, and declared entities, which grow without bound.
-/// It looks while the one pass over the text runs.
+/// It looks while the one pass over the text runs, and wants a GuardedXmlSource.
 class GuardedXmlReader : public QXmlSimpleReader
 {
 public:
@@ -45,7 +46,7 @@ private:
         int depth = 0;
     };
 
-    class EntityGuard : public QXmlDeclHandler
+    class EntityGuard : public QXmlDeclHandler, public QXmlDTDHandler
     {
     public:
         bool attributeDecl(const QString& element, const QString& attribute, const QString& type,
@@ -53,13 +54,31 @@ private:
         bool internalEntityDecl(const QString& name, const QString& value) override;
         bool externalEntityDecl(const QString& name, const QString& publicId,
                                 const QString& systemId) override;
+        bool notationDecl(const QString& name, const QString& publicId,
+                          const QString& systemId) override;
+        bool unparsedEntityDecl(const QString& name, const QString& publicId,
+                                const QString& systemId, const QString& notation) override;
         QString errorString() const override;
     };
 
     void setDeclHandler(QXmlDeclHandler* handler) override;
+    void setDTDHandler(QXmlDTDHandler* handler) override;
 
     DepthGuard depthGuard;
     EntityGuard entityGuard;
+};
+
+/// Ends a text early whose element declarations nest groups too deeply: the reader descends into
+/// them recursively before it tells any handler.
+class GuardedXmlSource : public QXmlInputSource
+{
+public:
+    QChar next() override;
+
+private:
+    int markupPosition = 0;
+    bool inElementDeclaration = false;
+    int groups = 0;
 };
 
 } // namespace quorvel

@@ -74,22 +74,14 @@ bool isWhole(const NetworkExchange& exchange)
     return !isAnnounced || length < 0 || length == exchange.body().size();
 }
 
-/// Whether Qt met the end of the connection in the middle of a read, which it reports as an unknown
-/// error without a text of its own. A network error that is really unknown has the socket's text.
-bool wasClosedEarly(const QNetworkReply& reply)
-{
-    return reply.errorString() == QIODevice::tr("Unknown error");
-}
-
 int statusOf(NetworkExchange::Ending ending, const NetworkExchange& exchange)
 {
     if (ending == NetworkExchange::Ending::TimedOut)
         return RequestTimedOut;
-    // An application that quits leaves a reply without an error, and without a body.
+    // What is broken off has no error of its own, and no body, or too much of it.
     if (ending == NetworkExchange::Ending::BrokenOff)
         return RequestNetworkFailure;
-    const QNetworkReply& reply = exchange.reply();
-    switch (reply.error()) {
+    switch (exchange.error()) {
     case QNetworkReply::NoError:
         return isWhole(exchange) ? RequestSucceeded : RequestNetworkFailure;
     case QNetworkReply::TimeoutError:

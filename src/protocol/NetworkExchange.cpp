@@ -9,20 +9,42 @@
 namespace quorvel
 {
 
-void NetworkExchange::OneWayBody::load(const QByteArray& content)
+namespace
 {
-    bytes = content;
+
+bool endsWithConnection(const QNetworkReply& reply)
+{
+    const QVariant status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute);
+    return status.isValid() && status.toInt() < 400 && !reply.hasRawHeader("Content-Length") &&
+           !reply.hasRawHeader("Transfer-Encoding");
+}
+
+} // namespace
+
+void NetworkExchange::OneWayBody::setContent(const QByteArray& content)
+{
+    rest = content;
     open(QIODevice::ReadOnly | QIODevice::Unbuffered);
 }
 
-qint64 NetworkExchange::OneWayBody::readData(char* data, qint64 most)
+qint64 NetworkExchange::OneWayBody::bytesAvailable() const
 {
-    const qint64 count = qMin(most, bytesAvailable());
-    if (count == 0)
+    return rest.size() + QIODevice::bytesAvailable();
+}
+
+qint64 NetworkExchange::OneWayBody::readData(char* data, qint64 maxSize)
+{
+    const int size = static_cast<int>(qMin<qint64>(maxSize, rest.size()));
+    if (size == 0)
         return -1;
-    std::copy_n(bytes.constData() + taken, count, data);
-    taken += count;
-    return count;
+    std::copy_n(rest.constData(), size, data);
+    rest.remove(0, size);
+    return size;
+}
+
+qint64 NetworkExchange::OneWayBody::writeData(const char*, qint64)
+{
+    return -1;
 }
 
 NetworkExchange::NetworkExchange(const AbortSignal* abortSignal) : abortSignal(abortSignal)
@@ -51,8 +73,22 @@ NetworkExchange::Ending NetworkExchange::post(QNetworkRequest request, const QBy
     // A sequential body goes out without being copied first only if its length is known.
     request.setHeader(QNetworkRequest::ContentLengthHeader, body.size());
     request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
-    outgoing.load(body);
-    return waitFor(manager.post(request, &outgoing), limitMs);
+    sent.setContent(body);
+    return waitFor(manager.post(request, &sent), limitMs);
+}
+
+QNetworkReply::NetworkError NetworkExchange::error() const
+{
+    const QNetworkReply::NetworkError error = pending->error();
+    // Where the close of the connection is the end of the reply, Qt takes it now and then for a
+    // reason to repeat the request, although it has handed out the reply already.
+    if (error == QNetworkReply::ContentReSendError && endsWithConnection(*pending))
+        return QNetworkReply::NoError;
+    // For a connection that breaks under the request Qt has neither a name nor, unlike for the
+    // errors that the system reports, words of its own.
+    if (error == QNetworkReply::UnknownNetworkError && pending->errorString() == sent.errorString())
+        return QNetworkReply::RemoteHostClosedError;
+    return error;
 }
 
 NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limitMs)
@@ -61,7 +97,7 @@ NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limit
     QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     QObject::connect(reply, &QNetworkReply::readyRead, &loop, [this] { receive(); });
     if (abortSignal)
-        QObject::connect(abortSignal, &AbortSignal::raised, &loop, [this] { pending->abort(); });
+        QObject::connect(abortSignal, &AbortSignal::raised, &loop, &QEventLoop::quit);
 
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);
@@ -74,21 +110,21 @@ NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limit
     const bool timedOut = !timer.isActive();
     timer.stop();
     const bool brokenOff = !reply->isFinished();
-    if (timedOut || brokenOff)
-        reply->abort();
-    else
+    if (!timedOut && !brokenOff)
         receive();
+    else if (reply->error() == QNetworkReply::NoError) // it can't take a second error
+        reply->abort();
     reply->deleteLater();
     if (timedOut)
         return Ending::TimedOut;
-    return brokenOff ? Ending::BrokenOff : Ending::Finished;
+    return brokenOff || received.size() > largestBody ? Ending::BrokenOff : Ending::Finished;
 }
 
 void NetworkExchange::receive()
 {
     received += pending->readAll();
-    if (received.size() > largestBody && pending->isRunning())
-        pending->abort();
+    if (received.size() > largestBody)
+        loop.quit();
 }
 
 } // namespace quorvel

@@ -22,15 +22,15 @@ class NetworkExchange
 public:
     /// How the wait ended.
     enum class Ending {
-        Finished, ///< the reply is complete or failed, as its error() tells
+        Finished, ///< the reply is complete or failed, as error() tells
         TimedOut, ///< the limit has passed
-        BrokenOff ///< the host's event loop was told to quit
+        BrokenOff ///< aborted, too large, or the host's event loop was told to quit
     };
 
-    /// A reply body of more bytes ends the exchange as an abort does.
+    /// A reply body of more bytes breaks the exchange off.
     static constexpr int largestBody = 4 * 1024 * 1024;
 
-    /// The exchange ends early, as aborted, when `abortSignal` is raised; null for never.
+    /// The exchange is broken off when `abortSignal` is raised; null for never.
     explicit NetworkExchange(const AbortSignal* abortSignal = nullptr);
 
     static QNetworkRequest request(const QUrl& url);
@@ -41,26 +41,28 @@ public:
     /// Valid after get or post, as long as the exchange lives.
     const QNetworkReply& reply() const { return *pending; }
     const QByteArray& body() const { return received; }
+    /// The reply's error, but for those that Qt finds by mistake or can't name.
+    QNetworkReply::NetworkError error() const;
 
 private:
     /// Can't be read twice, so that Qt can't send the request a second time by itself, which it
-    /// does with a rewindable body when the head of the reply is cut or garbled. No QBuffer, nor
-    /// derived from one: Qt reads such a device's bytes past all that it overrides.
+    /// does when the connection closes early. No QBuffer: Qt goes past its back and rewinds it.
     class OneWayBody : public QIODevice
     {
     public:
-        void load(const QByteArray& content);
+        void setContent(const QByteArray& content);
+
         bool isSequential() const override { return true; }
+        qint64 bytesAvailable() const override;
+        bool atEnd() const override { return bytesAvailable() == 0; }
         bool reset() override { return false; }
-        qint64 bytesAvailable() const override { return bytes.size() - taken; }
 
     protected:
-        qint64 readData(char* data, qint64 most) override;
-        qint64 writeData(const char*, qint64) override { return -1; }
+        qint64 readData(char* data, qint64 maxSize) override;
+        qint64 writeData(const char* data, qint64 maxSize) override;
 
     private:
-        QByteArray bytes;
-        qint64 taken = 0;
+        QByteArray rest;
     };
 
     Ending waitFor(QNetworkReply* reply, int limitMs);
@@ -68,7 +70,7 @@ private:
 
     const AbortSignal* abortSignal;
     QByteArray received;
-    OneWayBody outgoing;
+    OneWayBody sent;
     QNetworkAccessManager manager;
     QEventLoop loop;
     QNetworkReply* pending = nullptr;

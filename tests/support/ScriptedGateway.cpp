@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <arpa/inet.h>
 #include <chrono>
 #include <netinet/in.h>
@@ -12,92 +13,10 @@
 namespace quorvel::test
 {
 
-namespace
-{
-
-ReceivedRequest parseHead(const QByteArray& head)
-{
-    ReceivedRequest request;
-    QList<QByteArray> lines = head.split('\n');
-    const QList<QByteArray> first = lines.takeFirst().split(' ');
-    request.method = first.value(0);
-    request.path = first.value(1);
-    for (const QByteArray& line : qAsConst(lines)) {
-        const int colon = line.indexOf(':');
-        if (colon > 0)
-            request.headers.emplace_back(line.left(colon), line.mid(colon + 1).trimmed());
-    }
-    return request;
-}
-
-/// Reads one request; incomplete if the peer goes away.
-ReceivedRequest readRequest(int connection)
-{
-    QByteArray bytes;
-    int headEnd = -1;
-    ReceivedRequest request;
-    for (;;) {
-        if (headEnd < 0 && (headEnd = bytes.indexOf("\r\n\r\n")) >= 0)
-            request = parseHead(bytes.left(headEnd));
-        const int bodyLength = request.header("Content-Length").toInt();
-        if (headEnd >= 0 && bytes.size() >= headEnd + 4 + bodyLength)
-            break;
-        char buffer[65536];
-        const ssize_t count = ::recv(connection, buffer, sizeof buffer, 0);
-        if (count <= 0)
-            break;
-        bytes.append(buffer, static_cast<int>(count));
-    }
-    request.raw = bytes;
-    if (headEnd >= 0)
-        request.body = bytes.mid(headEnd + 4);
-    return request;
-}
-
-void sendAll(int connection, const QByteArray& bytes)
-{
-    for (int sent = 0; sent < bytes.size();) {
-        const ssize_t count = ::send(connection, bytes.constData() + sent,
-                                     static_cast<size_t>(bytes.size() - sent), MSG_NOSIGNAL);
-        if (count <= 0)
-            return;
-        sent += static_cast<int>(count);
-    }
-}
-
-void resetOnClose(int connection)
-{
-    const linger now{1, 0};
-    ::setsockopt(connection, SOL_SOCKET, SO_LINGER, &now, sizeof now);
-}
-
-/// Closes so that bytes on their way still arrive.
-void closeGently(int connection)
-{
-    ::shutdown(connection, SHUT_WR);
-    pollfd peer{connection, POLLIN, 0};
-    char rest[4096];
-    while (::poll(&peer, 1, 2000) > 0 && ::recv(connection, rest, sizeof rest, 0) > 0) {
-    }
-    ::close(connection);
-}
-
-} // namespace
-
 QByteArray httpReply(const QByteArray& body, const QByteArray& extraHeaders)
 {
     return "HTTP/1.1 200 OK\r\nContent-Type: text/xml\r\n" + extraHeaders +
            "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body;
-}
-
-QByteArray ReceivedRequest::header(const QByteArray& name) const
-{
-    QByteArray joined;
-    for (const auto& [key, value] : headers) {
-        if (qstricmp(key.constData(), name.constData()) == 0)
-            joined += (joined.isEmpty() ? QByteArray() : QByteArray(" | ")) + value;
-    }
-    return joined;
 }
 
 ScriptedGateway::ScriptedGateway()
@@ -125,8 +44,8 @@ ScriptedGateway::~ScriptedGateway()
     if (::write(wakeUp[1], &stop, 1) != 1)
         ADD_FAILURE() << "The scripted gateway can't be stopped";
     server.join();
-    for (std::thread& player : players)
-        player.join();
+    for (Player& player : players)
+        player.thread.join();
     ::close(listener);
     ::close(wakeUp[0]);
     ::close(wakeUp[1]);
@@ -148,38 +67,62 @@ ScriptedGateway& ScriptedGateway::append(Step step)
 
 ScriptedGateway& ScriptedGateway::logIn(const QByteArray& session)
 {
-    return append({true, "/cgi-bin/login",
-                   httpReply("<html/>", "Set-Cookie: " + session + "; path=/\r\n"), Ending::Close});
+    return append({true,
+                   "/cgi-bin/login",
+                   httpReply("<html/>", "Set-Cookie: " + session + "; path=/\r\n"),
+                   Ending::Close,
+                   {}});
 }
 
 ScriptedGateway& ScriptedGateway::refuseLogin()
 {
-    return append({true, "/cgi-bin/login", httpReply("<html/>"), Ending::Close});
+    return append({true, "/cgi-bin/login", httpReply("<html/>"), Ending::Close, {}});
 }
 
 ScriptedGateway& ScriptedGateway::reply(const QString& body)
 {
-    return append({true, "/cgi-bin/webapp", httpReply(body.toUtf8()), Ending::Close});
+    return append({true, "/cgi-bin/webapp", httpReply(body.toUtf8()), Ending::Close, {}});
 }
 
 ScriptedGateway& ScriptedGateway::sendRaw(const QByteArray& bytes)
 {
-    return append({true, {}, bytes, Ending::Close});
+    return append({true, {}, bytes, Ending::Close, {}});
 }
 
 ScriptedGateway& ScriptedGateway::sendAndReset(const QByteArray& bytes)
 {
-    return append({true, {}, bytes, Ending::Reset});
+    return append({true, {}, bytes, Ending::Reset, {}});
 }
 
 ScriptedGateway& ScriptedGateway::sendAndHold(const QByteArray& bytes)
 {
-    return append({true, {}, bytes, Ending::Hold});
+    return append({true, {}, bytes, Ending::Hold, {}});
 }
 
 ScriptedGateway& ScriptedGateway::closeOnAccept()
 {
-    return append({false, {}, {}, Ending::Close});
+    return append({false, {}, {}, Ending::Close, {}});
+}
+
+ScriptedGateway& ScriptedGateway::resetOnAccept()
+{
+    return append({false, {}, {}, Ending::Reset, {}});
+}
+
+ScriptedGateway& ScriptedGateway::holdUnread()
+{
+    return append({false, {}, {}, Ending::Hold, {}});
+}
+
+ScriptedGateway& ScriptedGateway::answer(Behaviour behaviour)
+{
+    return append({true, {}, {}, Ending::Close, std::move(behaviour)});
+}
+
+void ScriptedGateway::answerAllOthers(Behaviour behaviour)
+{
+    std::lock_guard<std::mutex> lock(mutex);
+    beyondScript = std::move(behaviour);
 }
 
 void ScriptedGateway::release()
@@ -226,46 +169,74 @@ void ScriptedGateway::serve()
             continue;
         std::lock_guard<std::mutex> lock(mutex);
         ++accepted;
-        players.emplace_back([this, connection] { play(connection); });
+        startPlayer(connection);
     }
 }
 
-void ScriptedGateway::play(int connection)
+void ScriptedGateway::startPlayer(int socket)
 {
-    Step step;
-    {
-        std::lock_guard<std::mutex> lock(mutex);
-        if (script.empty()) {
-            surprise = "a connection came that the gateway's script doesn't have";
-            ::close(connection);
-            return;
-        }
+    // Those that are done go now, so that thousands of connections don't need as many threads.
+    const auto done = std::stable_partition(players.begin(), players.end(),
+                                            [](const Player& player) { return !*player.done; });
+    std::for_each(done, players.end(), [](Player& player) { player.thread.join(); });
+    players.erase(done, players.end());
+    const auto finished = std::make_shared<std::atomic<bool>>(false);
+    players.push_back({std::thread([this, socket, finished] {
+                           play(socket);
+                           *finished = true;
+                       }),
+                       finished});
+}
+
+bool ScriptedGateway::takeStep(Step& step)
+{
+    std::lock_guard<std::mutex> lock(mutex);
+    if (!script.empty()) {
         step = script.front();
         script.pop_front();
+        return true;
     }
-    if (step.reads) {
-        const ReceivedRequest request = readRequest(connection);
-        std::lock_guard<std::mutex> lock(mutex);
-        received.append(request);
-        if (!step.expectedPath.isEmpty() && request.path != step.expectedPath)
-            surprise = "a request to " + request.path + " came instead of " + step.expectedPath;
-        changed.notify_all();
+    if (beyondScript) {
+        step.behaviour = beyondScript;
+        return true;
     }
-    sendAll(connection, step.answer);
-    if (step.ending == Ending::Hold)
-        hold(connection);
-    if (step.ending == Ending::Close) {
-        closeGently(connection);
-        return;
-    }
-    resetOnClose(connection);
-    ::close(connection);
+    surprise = "a connection came that the gateway's script doesn't have";
+    return false;
 }
 
-void ScriptedGateway::hold(int)
+void ScriptedGateway::play(int socket)
+{
+    GatewayConnection connection(*this, socket);
+    Step step;
+    if (!takeStep(step))
+        return;
+    ReceivedRequest request;
+    if (step.reads) {
+        request = connection.readRequest();
+        record(request, step.expectedPath);
+    }
+    connection.send(step.answer);
+    if (step.behaviour)
+        step.behaviour(request, connection);
+    if (step.ending == Ending::Hold)
+        connection.waitForRelease();
+    if (step.ending == Ending::Close)
+        connection.closeGently();
+}
+
+void ScriptedGateway::record(const ReceivedRequest& request, const QByteArray& expectedPath)
+{
+    std::lock_guard<std::mutex> lock(mutex);
+    received.append(request);
+    if (!expectedPath.isEmpty() && request.path != expectedPath)
+        surprise = "a request to " + request.path + " came instead of " + expectedPath;
+    changed.notify_all();
+}
+
+bool ScriptedGateway::releasedWithin(std::chrono::milliseconds time) const
 {
     std::unique_lock<std::mutex> lock(mutex);
-    changed.wait(lock, [this] { return released; });
+    return changed.wait_for(lock, time, [this] { return released; });
 }
 
 } // namespace quorvel::test

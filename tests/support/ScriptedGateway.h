@@ -1,14 +1,17 @@
 #pragma once
 
+#include "support/GatewayConnection.h"
 #include "support/Printing.h"
 
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <functional>
-#include <map>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -16,23 +19,14 @@
 namespace quorvel::test
 {
 
-/// What the gateway received on one connection.
-struct ReceivedRequest {
-    QByteArray raw; ///< every byte, head and body
-    QByteArray method;
-    QByteArray path;
-    QByteArray body;
-    std::vector<std::pair<QByteArray, QByteArray>> headers;
-
-    /// All values of the header of that name, joined by " | "; empty if it is absent.
-    QByteArray header(const QByteArray& name) const;
-};
-
 /// A gateway on real TCP that plays a script: each connection gets the next step. A test fails if
 /// the script is not played to its end, or if a connection comes that it doesn't have.
 class ScriptedGateway
 {
 public:
+    /// What a connection does once its request is read.
+    using Behaviour = std::function<void(const ReceivedRequest& request, GatewayConnection& peer)>;
+
     ScriptedGateway();
     ~ScriptedGateway();
 
@@ -56,6 +50,16 @@ public:
     /// Closes the connection unread.
     ScriptedGateway& closeOnAccept();
 
+    /// Resets the connection unread.
+    ScriptedGateway& resetOnAccept();
+    /// Reads nothing and sends nothing until release or the test's end.
+    ScriptedGateway& holdUnread();
+    /// Reads the request and lets `behaviour` answer it, then closes.
+    ScriptedGateway& answer(Behaviour behaviour);
+
+    /// Lets `behaviour` answer every connection for which the script has no step, on a thread each.
+    void answerAllOthers(Behaviour behaviour);
+
     /// Lets held connections go.
     void release();
 
@@ -69,6 +73,8 @@ public:
 private:
     Q_DISABLE_COPY(ScriptedGateway)
 
+    friend class GatewayConnection;
+
     enum class Ending { Close, Reset, Hold };
 
     struct Step {
@@ -76,12 +82,21 @@ private:
         QByteArray expectedPath; ///< empty for any
         QByteArray answer;
         Ending ending = Ending::Close;
+        Behaviour behaviour; ///< speaks behind the answer
+    };
+
+    struct Player {
+        std::thread thread;
+        std::shared_ptr<std::atomic<bool>> done;
     };
 
     ScriptedGateway& append(Step step);
     void serve();
-    void play(int connection);
-    void hold(int connection);
+    void startPlayer(int socket);
+    void play(int socket);
+    bool takeStep(Step& step);
+    void record(const ReceivedRequest& request, const QByteArray& expectedPath);
+    bool releasedWithin(std::chrono::milliseconds time) const;
 
     int listener = -1;
     int wakeUp[2] = {-1, -1};
@@ -94,7 +109,8 @@ private:
     QByteArray surprise;
     int accepted = 0;
     bool released = false;
-    std::vector<std::thread> players;
+    Behaviour beyondScript;
+    std::vector<Player> players;
     std::thread server;
 };
 
