@@ -1,6 +1,5 @@
 #include "QuorvelctlRun.h"
 
-#include <QProcess>
 #include <QProcessEnvironment>
 
 namespace quorvelctl::test
@@ -8,14 +7,14 @@ namespace quorvelctl::test
 
 using namespace quorvel::simulator;
 
-Outcome runQuorvelctl(const std::string& arguments, const Surroundings& surroundings)
+void start(QProcess& process, const std::string& arguments, const Surroundings& surroundings)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     const auto set = [&](const char* name, const std::string& value) {
         environment.insert(QLatin1String(name), QString::fromStdString(value));
     };
-    environment.remove(QStringLiteral("QUORVELCTL_ADDRESS"));
-    environment.remove(QStringLiteral("QUORVELCTL_PASSWORD"));
+    for (const char* name : {"ADDRESS", "USER", "PASSWORD", "CANDIDATE", "NEW_PASSWORD"})
+        environment.remove(QLatin1String("QUORVELCTL_") + QLatin1String(name));
     if (!surroundings.address.empty())
         set("QUORVELCTL_ADDRESS", surroundings.address);
     if (!surroundings.password.empty())
@@ -23,10 +22,15 @@ Outcome runQuorvelctl(const std::string& arguments, const Surroundings& surround
     for (const auto& [name, value] : surroundings.variables)
         set(name.c_str(), value);
 
-    QProcess process;
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(QUORVELCTL),
                   QString::fromStdString(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+}
+
+Outcome runQuorvelctl(const std::string& arguments, const Surroundings& surroundings)
+{
+    QProcess process;
+    start(process, arguments, surroundings);
     process.write(surroundings.input.c_str());
     process.closeWriteChannel();
     EXPECT_TRUE(process.waitForFinished(100000)) << arguments << " doesn't end";
@@ -48,6 +52,14 @@ Outcome QuorvelctlTest::run(const std::string& arguments, const std::string& inp
     surroundings.address = simulator.address();
     surroundings.input = input;
     return runQuorvelctl(arguments, surroundings);
+}
+
+void QuorvelctlTest::spoil(const std::string& fault)
+{
+    std::string error;
+    const auto understood = Fault::fromText(fault, &error);
+    ASSERT_TRUE(understood) << error;
+    simulator.addFault(*understood);
 }
 
 } // namespace quorvelctl::test

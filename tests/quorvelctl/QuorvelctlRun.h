@@ -2,6 +2,7 @@
 
 #include "quorvel-simulator/GatewaySimulator.h"
 
+#include <QProcess>
 #include <gtest/gtest.h>
 #include <map>
 #include <string>
@@ -25,7 +26,11 @@ struct Surroundings {
     std::map<std::string, std::string> variables;
 };
 
-/// Runs quorvelctl with arguments separated by blanks.
+/// Gives a process its surroundings, and starts quorvelctl in it with arguments separated by
+/// blanks.
+void start(QProcess& process, const std::string& arguments, const Surroundings& surroundings);
+
+/// Runs quorvelctl to its end.
 Outcome runQuorvelctl(const std::string& arguments, const Surroundings& surroundings);
 
 /// A simulated gateway to run the program against.
@@ -36,6 +41,8 @@ protected:
 
     /// Runs it with the gateway's address and password.
     Outcome run(const std::string& arguments, const std::string& input = std::string()) const;
+    /// Lets the gateway spoil requests, as Fault::fromText describes it.
+    void spoil(const std::string& fault);
 
     quorvel::simulator::GatewaySimulator simulator;
 };

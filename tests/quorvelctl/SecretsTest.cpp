@@ -71,6 +71,31 @@ TEST_F(QuorvelctlSecrets, ANewPasswordIsTheOneToLogInWith)
     EXPECT_EQ(runQuorvelctl("session", changed).status, 0);
 }
 
+TEST_F(QuorvelctlSecrets, AnEmptyNewPasswordIsRefusedAtOnce)
+{
+    const Outcome result = run("password set --new-password-stdin", "\n");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "quorvelctl: the new password is empty\n");
+    EXPECT_EQ(simulator.requestCount(), 0u);
+}
+
+TEST_F(QuorvelctlSecrets, APasswordThatTheGatewayDoesNotTakeStaysTheOldOne)
+{
+    spoil("error:9 key=password");
+    const Outcome result = run("password set --new-password-stdin --json", "s3cret\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(run("session").status, 0);
+}
+
+TEST_F(QuorvelctlSecrets, ComeFromTheEnvironment)
+{
+    const Surroundings surroundings{
+        simulator.address(), "admin", {}, {{"QUORVELCTL_CANDIDATE", "admin"}}};
+    const Outcome result = runQuorvelctl("password check --json", surroundings);
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(result.output, "{\n    \"done\": \"That is the administrator password.\"\n}\n");
+}
+
 TEST_F(QuorvelctlSecrets, AreShownOnDemandOnly)
 {
     EXPECT_THAT(run("session --json").output, HasSubstr("\"session\": \"********\""));

@@ -7,8 +7,8 @@ namespace quorvelctl
 
 using namespace quorvel;
 
-Gateway::Gateway(const Options& options, LogWatch& watch)
-    : watch(watch), info{options.user(), options.password(), options.address()}, handle(info)
+Gateway::Gateway(const AuthenticationInfo& login, LogWatch& watch)
+    : watch(watch), info(login), handle(info)
 {
     watch.reset();
     generalFacade = handle.getGeneralSettingsFacade();
@@ -40,8 +40,6 @@ void Gateway::expectSuccess(const QString& what, AspWebAppErrorCodes error) cons
     case AspWebAppNoError:
         if (watch.loginGotLost())
             fail(NotReachable, QStringLiteral("the login got no answer"));
-        if (watch.sawError())
-            fail(GatewayFailed, QStringLiteral("the gateway didn't do it"));
         return;
     case AspWebAppLoginFailed:
         fail(GatewayFailed, QStringLiteral("the gateway's reply can't be read"));

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "LogWatch.h"
-#include "Options.h"
 
 #include <quorvel/QuorvelApi1.h>
 
@@ -11,12 +10,12 @@
 namespace quorvelctl
 {
 
-/// The gateway that the options name, recognised and logged in to at construction. Everything that
+/// A gateway, recognised and logged in to at construction. Everything that
 /// goes wrong with it is thrown as a Failure that says what and why.
 class Gateway
 {
 public:
-    Gateway(const Options& options, LogWatch& watch);
+    Gateway(const quorvel::AuthenticationInfo& login, LogWatch& watch);
 
     const QString& address() const { return info.cpeAddress; }
     quorvel::AspCpeFacadeObject& object() { return handle; }
@@ -27,6 +26,17 @@ public:
     /// "can't ...".
     template <typename Call>
     auto ask(const QString& what, Call call)
+    {
+        const auto result = order(what, call);
+        if (watch.sawError())
+            refuse(what);
+        return result;
+    }
+
+    /// The same for a call that may log an error line although what was asked for is done: its
+    /// error and its login alone decide.
+    template <typename Call>
+    auto order(const QString& what, Call call)
     {
         watch.reset();
         quorvel::AspWebAppErrorCodes error = quorvel::AspWebAppNoError;

@@ -1,5 +1,6 @@
 #include "LogWatch.h"
 
+#include "Output.h"
 #include "Secrets.h"
 
 #include <ostra/OstraLogger.h>
@@ -69,7 +70,8 @@ void LogWatch::take(const QString& message, int level)
     if (level < shownLevel)
         return;
     const QString shown = secretsShown ? message : withoutSecrets(message);
-    std::cerr << '[' << level << "] " << shown.toStdString() << '\n';
+    std::cerr << '[' << level << "] " << printable(shown, QStringLiteral("\t\n")).toStdString()
+              << '\n';
 }
 
 } // namespace quorvelctl

@@ -20,6 +20,22 @@ const std::map<std::string, int> levels{{"debug", 96},
                                         {"error", 182},
                                         {"off", std::numeric_limits<int>::max()}};
 
+/// Makes an address what the library takes, or tells why it can't be one.
+std::string normalizeAddress(std::string& address)
+{
+    QString text = QString::fromStdString(address).trimmed();
+    if (text.startsWith(QLatin1String("http://"), Qt::CaseInsensitive))
+        text.remove(0, 7);
+    if (text.contains(QLatin1String("://")))
+        return "gateways are reached by plain http only: " + address;
+    while (text.endsWith(QLatin1Char('/')))
+        text.chop(1);
+    if (text.isEmpty())
+        return "no address: " + address;
+    address = text.toStdString();
+    return std::string();
+}
+
 } // namespace
 
 void Options::addTo(CLI::App& app)
@@ -27,6 +43,7 @@ void Options::addTo(CLI::App& app)
     app.add_option("-a,--address", givenAddress,
                    "Address of the gateway, with or without a port; without it the default gateway "
                    "of this machine")
+        ->transform(CLI::Validator(normalizeAddress, std::string()))
         ->envname("QUORVELCTL_ADDRESS");
     app.add_option("-u,--user", userName, "Login name")
         ->envname("QUORVELCTL_USER")

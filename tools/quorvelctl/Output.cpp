@@ -29,13 +29,18 @@ void writeRow(const QStringList& cells, const QVector<int>& widths)
     writeLine(line);
 }
 
-/// Control characters of a hostile gateway must not reach a terminal.
-QString printable(const QString& text)
+void writeJson(const QJsonDocument& document)
 {
-    QString clean;
-    for (const QChar character : text)
-        clean += character.category() == QChar::Other_Control ? QChar(0xfffd) : character;
-    return clean;
+    // Qt escapes only the older half of the control characters.
+    QString text;
+    const QString json = QString::fromUtf8(document.toJson());
+    for (const QChar character : json) {
+        if (character.unicode() >= 0x7f && character.category() == QChar::Other_Control)
+            text += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
+        else
+            text += character;
+    }
+    std::cout << text.toStdString();
 }
 
 QStringList headingsOf(const Record& record)
@@ -47,6 +52,17 @@ QStringList headingsOf(const Record& record)
 }
 
 } // namespace
+
+QString printable(const QString& text, const QString& harmless)
+{
+    QString clean;
+    for (const QChar character : text) {
+        const bool acts =
+            character.category() == QChar::Other_Control && !harmless.contains(character);
+        clean += acts ? QChar(0xfffd) : character;
+    }
+    return clean;
+}
 
 Field secretField(const QString& key, const QString& heading, const QString& value)
 {
@@ -86,7 +102,7 @@ QJsonObject Output::toJson(const Record& record) const
 void Output::print(const Record& record) const
 {
     if (json) {
-        std::cout << QJsonDocument(toJson(record)).toJson().toStdString();
+        writeJson(QJsonDocument(toJson(record)));
         return;
     }
     int width = 0;
@@ -102,7 +118,7 @@ void Output::print(const QList<Record>& records, const QString& none) const
         QJsonArray objects;
         for (const Record& record : records)
             objects.append(toJson(record));
-        std::cout << QJsonDocument(objects).toJson().toStdString();
+        writeJson(QJsonDocument(objects));
         return;
     }
     if (records.isEmpty()) {

@@ -23,6 +23,10 @@ using Record = QList<Field>;
 /// Marks a value that is shown only on demand.
 Field secretField(const QString& key, const QString& heading, const QString& value);
 
+/// A text without the control characters with which a hostile gateway could drive a terminal, but
+/// for those in `harmless`.
+QString printable(const QString& text, const QString& harmless = QString());
+
 /// Writes results to standard output, for people or as JSON.
 class Output
 {

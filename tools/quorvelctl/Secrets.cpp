@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <iostream>
+#include <termios.h>
+#include <unistd.h>
 
 namespace quorvelctl
 {
@@ -24,12 +26,45 @@ QString firstLineOf(const std::string& path)
     return QString::fromUtf8(line);
 }
 
+/// While it lives, a terminal asks for a secret and doesn't show what is typed.
+class QuietTerminal
+{
+public:
+    explicit QuietTerminal(const std::string& meaning)
+        : isTerminal(tcgetattr(STDIN_FILENO, &before) == 0)
+    {
+        if (!isTerminal)
+            return;
+        termios quiet = before;
+        // No interruption either: it would leave the terminal quiet.
+        quiet.c_lflag &= ~static_cast<tcflag_t>(ECHO | ISIG);
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &quiet);
+        std::cerr << meaning << ": " << std::flush;
+    }
+    ~QuietTerminal()
+    {
+        if (!isTerminal)
+            return;
+        tcsetattr(STDIN_FILENO, TCSAFLUSH, &before);
+        std::cerr << '\n';
+    }
+
+private:
+    Q_DISABLE_COPY(QuietTerminal)
+
+    termios before;
+    bool isTerminal;
+};
+
 QString nextLineOfStdin(const std::string& meaning)
 {
     std::string line;
+    const QuietTerminal terminal(meaning);
     if (!std::getline(std::cin, line))
         throw Failure{WrongUsage, QStringLiteral("standard input ends before the %1")
                                       .arg(QString::fromStdString(meaning))};
+    if (!line.empty() && line.back() == '\r')
+        line.pop_back();
     return QString::fromStdString(line);
 }
 

@@ -8,11 +8,25 @@
 namespace quorvelctl
 {
 
+const quorvel::AuthenticationInfo& Session::login()
+{
+    if (!credentials)
+        credentials = std::make_unique<quorvel::AuthenticationInfo>(
+            quorvel::AuthenticationInfo{options.user(), options.password(), options.address()});
+    return *credentials;
+}
+
 Gateway& Session::gateway()
 {
     if (!opened)
-        opened = std::make_unique<Gateway>(options, watch);
+        opened = std::make_unique<Gateway>(login(), watch);
     return *opened;
+}
+
+QString Session::readSecret(const SecretSource& source)
+{
+    login();
+    return source.read();
 }
 
 void Session::applyLogLevel()

@@ -17,7 +17,12 @@ class Session
 public:
     Options options;
 
+    /// Where the gateway is and how to log in to it, with its secret read at the first call: of
+    /// all that a command reads from standard input the login password comes first.
+    const quorvel::AuthenticationInfo& login();
     Gateway& gateway();
+    /// A secret that a command needs besides, read before the gateway is asked anything.
+    QString readSecret(const SecretSource& source);
     Output output() const { return Output(options.json, options.showSecrets); }
 
     /// Shows the library's log as the options say.
@@ -28,6 +33,7 @@ public:
 
 private:
     LogWatch watch;
+    std::unique_ptr<quorvel::AuthenticationInfo> credentials;
     std::unique_ptr<Gateway> opened;
 };
 

@@ -18,6 +18,8 @@ int run(CLI::App& app, int argc, char** argv)
         if (app.get_subcommands().empty())
             throw Failure{WrongUsage,
                           QStringLiteral("what to do? quorvelctl --help lists the commands")};
+        if (!std::cout.flush())
+            throw Failure{GatewayFailed, QStringLiteral("can't write the result")};
         return Success;
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? Success : WrongUsage;
@@ -36,7 +38,7 @@ int main(int argc, char** argv)
     CLI::App app("Manages a home gateway from the shell.", "quorvelctl");
     Session session;
     session.options.addTo(app);
-    app.set_version_flag("--version", QUORVELCTL_VERSION);
+    app.set_version_flag("--version", "quorvelctl " QUORVELCTL_VERSION);
     app.footer("Exit status: 0 success, 1 the gateway reported an error, 2 wrong usage, 3 login "
                "refused, 4 not reachable or timed out.");
     // Not required here: so an unknown command is complained of by its name.

@@ -139,8 +139,11 @@ void managers(Session& session)
         return gateway.general().getManagerList(error);
     });
     QList<Record> records;
-    for (const QString& name : names)
-        records.append({field("manager", "Manager", name)});
+    for (const QString& name : names) {
+        // Not a manager, but the trace of a session that had to be renewed meanwhile.
+        if (name != QLatin1String("0"))
+            records.append({field("manager", "Manager", name)});
+    }
     session.output().print(records, word("No managers."));
 }
 

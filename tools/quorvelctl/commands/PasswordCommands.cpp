@@ -14,9 +14,8 @@ namespace
 
 void check(Session& session, const SecretSource& source)
 {
-    // Both may come from standard input: the login password first.
+    const QString password = session.readSecret(source);
     Gateway& gateway = session.gateway();
-    const QString password = source.read();
     const bool correct = gateway.ask(QStringLiteral("check the password"), [&](auto& error) {
         return gateway.general().checkCpePassword(password, error);
     });
@@ -27,8 +26,10 @@ void check(Session& session, const SecretSource& source)
 
 void set(Session& session, const SecretSource& source)
 {
+    const QString password = session.readSecret(source);
+    if (password.isEmpty())
+        throw Failure{WrongUsage, QStringLiteral("the new password is empty")};
     Gateway& gateway = session.gateway();
-    const QString password = source.read();
     gateway.demand(QStringLiteral("change the password"),
                    [&](auto& error) { return gateway.general().setCpePassword(password, error); });
     session.output().printDone(QStringLiteral("The administrator password is changed."));

@@ -24,17 +24,19 @@ struct Restart {
 
 void run(Session& session, const Restart& restart)
 {
-    Gateway& gateway = session.gateway();
     if (!restart.confirmed)
-        session.confirm(QString::fromLatin1(restart.question).arg(gateway.address()));
-    const int duration = gateway.ask(QString::fromLatin1(restart.what), [&](auto& error) {
+        session.confirm(QString::fromLatin1(restart.question).arg(session.login().cpeAddress));
+    Gateway& gateway = session.gateway();
+    // A gateway that doesn't tell how long it takes costs an error line, and restarts all the same.
+    const int duration = gateway.order(QString::fromLatin1(restart.what), [&](auto& error) {
         return (gateway.general().*restart.operation)(error);
     });
-    if (restart.wait)
+    Record record{{QStringLiteral("durationMs"), QStringLiteral("Takes about (ms)"), duration}};
+    if (restart.wait) {
         waitUntilBack(gateway.address(), duration);
-    session.output().print(
-        {{QStringLiteral("durationMs"), QStringLiteral("Takes about (ms)"), duration},
-         {QStringLiteral("back"), QStringLiteral("Answers again"), restart.wait}});
+        record.append({QStringLiteral("back"), QStringLiteral("Answers again"), true});
+    }
+    session.output().print(record);
 }
 
 } // namespace
