@@ -2,6 +2,7 @@
 
 #include "Gateway.h"
 #include "Server.h"
+#include "objects/ObjectKind.h"
 
 namespace quorvel::simulator
 {
@@ -93,7 +94,7 @@ std::string GatewaySimulator::value(const std::string& instance, const std::stri
     d->gateway.readState([&](const State& state) {
         result = valueIn(state.running.read(), instance, key);
         if (result.empty())
-            result = valueIn(state.status.read(), instance, key);
+            result = runTimeValue(state, instance, key);
     });
     return result;
 }

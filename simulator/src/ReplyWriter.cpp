@@ -26,11 +26,21 @@ std::string element(const std::string& name, const std::string& content)
     return "<" + name + ">" + content + "</" + name + ">";
 }
 
+std::string pair(const Entry& entry)
+{
+    return element(entry.instance,
+                   element("key", escaped(entry.key)) + element("value", escaped(entry.value))) +
+           "\n";
+}
+
 std::string inLeafForm(const std::vector<Entry>& entries)
 {
     std::vector<std::pair<std::string, std::string>> objects;
+    std::string pairs;
     for (const Entry& entry : entries) {
-        if (!isElementName(entry.key))
+        if (entry.repeats)
+            pairs += pair(entry);
+        if (entry.repeats || !isElementName(entry.key))
             continue;
         auto object = std::find_if(objects.begin(), objects.end(), [&entry](const auto& known) {
             return known.first == entry.instance;
@@ -42,17 +52,14 @@ std::string inLeafForm(const std::vector<Entry>& entries)
     std::string text;
     for (const auto& [instance, content] : objects)
         text += element(instance, content) + "\n";
-    return text;
+    return text + pairs;
 }
 
 std::string inPairForm(const std::vector<Entry>& entries)
 {
     std::string text;
-    for (const Entry& entry : entries) {
-        text += element(entry.instance, element("key", escaped(entry.key)) +
-                                            element("value", escaped(entry.value))) +
-                "\n";
-    }
+    for (const Entry& entry : entries)
+        text += pair(entry);
     return text;
 }
 

@@ -1,5 +1,7 @@
 #include "State.h"
 
+#include "objects/Modem.h"
+
 #include <algorithm>
 
 namespace quorvel::simulator
@@ -34,9 +36,11 @@ void State::restart(const Scenario& scenario)
 {
     configuration = stored;
     running = stored;
+    const Objects before = status.read();
     status = Cow<Objects>(scenario.status);
     transactions.clear();
     fresh.clear();
+    restartModems(*this, before);
 }
 
 std::string valueIn(const Objects& objects, const std::string& instance, const std::string& key)

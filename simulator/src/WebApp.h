@@ -46,10 +46,13 @@ struct Entry {
     std::string instance;
     std::string key;
     std::string value;
+    /// Whether the key stands for several values, each of which counts.
+    bool repeats = false;
 };
 
 /// The XML of a reply: one element per object in dialect 1.0.0, one per value in 1.0.1. In 1.0.0
-/// a value whose key can't be an element's name is left out.
+/// a value whose key can't be an element's name is left out, and those of a key that repeats have
+/// the form of 1.0.1, the only one that clients take several from.
 std::string writeReply(const std::string& dialect, const std::vector<Entry>& entries,
                        ErrorCode error);
 

@@ -44,7 +44,6 @@ TEST_F(ClientRequestTest, ADslConnectionIsWrittenInOneRequest)
                        "command rfc2684-0 apply",
                        "command cfgmgr-0 save"}),
               0);
-    EXPECT_EQ(gateway.storedValue("wan-0", "type"), "pppoe");
     EXPECT_EQ(gateway.storedValue("wan-0", "linktype"), "pppoe");
     EXPECT_EQ(gateway.storedValue("pvc-0", "vci"), "32");
     EXPECT_EQ(gateway.value("dsl-0", "annex"), "b");

@@ -23,7 +23,7 @@ TEST_F(ClassicDialectTest, AnswersWithAnElementPerObjectAndPerValue)
               "<response version=\"1.0.0\">\n"
               "<sysmgr-0><fwversion>1.4.12</fwversion><PRODUCT_ID>QV-1200A</PRODUCT_ID>"
               "</sysmgr-0>\n"
-              "<devmgr-0><wan0>wan-0</wan0></devmgr-0>\n"
+              "<devmgr-0><wan0>wan-0</wan0><wan1>wan-1</wan1></devmgr-0>\n"
               "<dhcps-0><client0.hostname>printer</client0.hostname>"
               "<client0.ip>192.0.2.20</client0.ip>"
               "<client0.mac>02:00:5E:20:00:11</client0.mac>"
@@ -41,6 +41,16 @@ TEST_F(ClassicDialectTest, LeavesOutAValueWhoseKeyIsNoElementName)
     EXPECT_EQ(send({"get voice-0 Line[0].SIP", "query voice-0 callhistory:0:19:1", "get voice-0 0",
                     "query voice-0 status"}),
               "<response version=\"1.0.0\">\n<voice-0><status>up</status></voice-0>\n"
+              "<webapp><error>0</error></webapp>\n</response>\n");
+}
+
+TEST_F(ClassicDialectTest, WritesValuesOfOneKeyAsClientsReadThem)
+{
+    EXPECT_EQ(send({"query route-0 def_gw_status", "get route-0 default_gw"}),
+              "<response version=\"1.0.0\">\n"
+              "<route-0><default_gw>wan-0</default_gw></route-0>\n"
+              "<route-0><key>def_gw_status</key><value>wan-0:1</value></route-0>\n"
+              "<route-0><key>def_gw_status</key><value>wan-1:0</value></route-0>\n"
               "<webapp><error>0</error></webapp>\n</response>\n");
 }
 

@@ -1,4 +1,5 @@
-#include "SimulatedGateway.h"
+#include "ConnectionWrites.h"
+#include "EachGateway.h"
 
 namespace quorvel::simulator::tests
 {
@@ -96,6 +97,65 @@ TEST_F(InstanceLifeTest, OnlyKnownManagersCreateInstances)
 {
     EXPECT_EQ(errorOf({"command devmgr-0 create_inst unicorn"}), 10);
     EXPECT_EQ(errorOf({"command devmgr-0 create_inst"}), 10);
+}
+
+class EntityTest : public EachGateway
+{
+protected:
+    // Makes an entity of the type and adds it to the WAN over Ethernet.
+    std::string add(const std::string& type)
+    {
+        const std::string fresh =
+            read("command devmgr-0 create_inst " + type, "create_inst." + type);
+        EXPECT_EQ(errorOf(addedEntity("wan-1", type, fresh)), 0) << type;
+        return fresh;
+    }
+
+    std::string entity(const std::string& type)
+    {
+        return read("get wan-1 entities", "entities." + type);
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Gateways, EntityTest, testing::Values("classic", "modern"), scenarioName);
+
+TEST_P(EntityTest, EveryTypeIsMadeAddedAndTakenAwayAgain)
+{
+    for (const char* type :
+         {"pppox", "dhcpc", "static", "vpn", "l2tp", "wan_vlan", "pvc", "rfc2684", "bridge"}) {
+        const std::string fresh = add(type);
+        EXPECT_THAT(fresh, testing::MatchesRegex(type + std::string("-[0-9]")));
+        EXPECT_EQ(entity(type), fresh);
+        EXPECT_EQ(gateway.storedValue("wan-1", std::string("entities.") + type), fresh);
+        EXPECT_EQ(get(fresh, "enabled"), "1");
+        EXPECT_EQ(errorOf(deletedEntity("wan-1", type, fresh)), 0);
+        EXPECT_EQ(entity(type), "");
+        EXPECT_EQ(gateway.storedValue(fresh, "enabled"), "");
+        EXPECT_EQ(errorOf({"get " + fresh + " enabled"}), 5);
+    }
+}
+
+TEST_P(EntityTest, ANewEntityCarriesItsConnection)
+{
+    gateway.setValue("wan-1", "enabled", "1");
+    EXPECT_EQ(add("pppox"), "pppox-2");
+    EXPECT_EQ(errorOf(joined(
+                  {linkType("wan-1", "pppoe"), block("pppox-2", {"username u", "password p"})})),
+              0);
+    EXPECT_EQ(query("wan-1", "isconnected"), "1");
+    EXPECT_EQ(query("wan-1", "localip"), "203.0.113.3");
+    EXPECT_EQ(read("query pppox-2 state", "state.localIP"), "203.0.113.3");
+    EXPECT_EQ(read("query pppox-1 state", "state.status"), "disconnected");
+}
+
+TEST_P(EntityTest, WithoutItsEntityAConnectionIsDown)
+{
+    gateway.setValue("wan-1", "enabled", "1");
+    ASSERT_EQ(query("wan-1", "isconnected"), "1");
+    EXPECT_EQ(errorOf(deletedEntity("wan-1", "dhcpc", entity("dhcpc"))), 0);
+    EXPECT_EQ(query("wan-1", "isconnected"), "0");
+    add("dhcpc");
+    EXPECT_EQ(query("wan-1", "isconnected"), "1");
 }
 
 TEST_F(InstanceLifeTest, InterfacesAreAddedAndTakenAway)

@@ -41,10 +41,10 @@ std::string post(const std::string& path, const std::string& body, const std::st
            std::to_string(body.size()) + "\r\n\r\n" + body;
 }
 
-std::string xml(const std::string& version, std::initializer_list<const char*> lines)
+std::string xml(const std::string& version, const Lines& lines)
 {
     std::string text = "<xmlrequest version=\"" + version + "\">";
-    for (const char* line : lines)
+    for (const std::string& line : lines)
         text += command(line);
     return text + "</xmlrequest>";
 }
@@ -79,7 +79,7 @@ std::string SimulatedGateway::logIn(const std::string& form)
     return header.substr(0, header.find(';'));
 }
 
-std::string SimulatedGateway::send(std::initializer_list<const char*> lines)
+std::string SimulatedGateway::send(const Lines& lines)
 {
     return sendXml(xml(dialect, lines));
 }
@@ -92,11 +92,11 @@ std::string SimulatedGateway::sendXml(const std::string& text)
     return client.body();
 }
 
-std::string SimulatedGateway::get(const std::string& instance, const std::string& key)
+std::string SimulatedGateway::read(const std::string& line, const std::string& key)
 {
-    const std::string line = "get " + instance + " " + key;
-    const std::string body = send({line.c_str()});
-    const std::string label = "<key>" + key + "</key><value>";
+    const std::string body = send({line});
+    const std::string label =
+        dialect == "1.0.0" ? "<" + key + ">" : "<key>" + key + "</key><value>";
     const auto place = body.find(label);
     if (place == std::string::npos)
         return {};

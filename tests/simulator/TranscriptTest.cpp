@@ -67,7 +67,7 @@ TEST_F(TranscriptTest, MasksSecretsInRequests)
 
 TEST_F(TranscriptTest, MasksSecretsInReplies)
 {
-    gateway.setValue("pppox-0", "settings.password", "S3CRET");
+    gateway.setValue("pppox-0", "password", "S3CRET");
     EXPECT_THAT(send({"get pppox-0 settings"}), HasSubstr("S3CRET"));
     EXPECT_THAT(gateway.transcript(), Not(HasSubstr("S3CRET")));
     EXPECT_EQ(toTranscript({{"POST", "/", "", "", "HTTP/1.1 200 OK\r\n",

@@ -46,7 +46,7 @@ TEST_F(ValueTest, AKeyStandsForThoseBelowIt)
                       HasSubstr("<key>entities.dhcpc</key><value>dhcpc-0</value>"),
                       HasSubstr("<key>entities.wan_vlan</key><value>wan_vlan-0</value>")));
     EXPECT_THAT(send({"query dsl-0 status"}),
-                HasSubstr("<key>status.training_stat</key><value>IDLE</value>"));
+                HasSubstr("<key>status.training_stat</key><value>SHOWTIME</value>"));
 }
 
 TEST_F(ValueTest, EnvironmentValuesStandUnderTheirOwnNames)
@@ -82,6 +82,7 @@ TEST_F(ValueTest, InstancesAreListedUnderTheManagersOwnKeys)
               "<response version=\"1.0.1\">\n"
               "<devmgr-0><key>wan0</key><value>wan-0</value></devmgr-0>\n"
               "<devmgr-0><key>wan1</key><value>wan-1</value></devmgr-0>\n"
+              "<devmgr-0><key>wan2</key><value>wan-2</value></devmgr-0>\n"
               "<devmgr-0><key>conn.inst0</key><value>conn-0</value></devmgr-0>\n"
               "<webapp><error>0</error></webapp>\n</response>\n");
 }
@@ -114,6 +115,7 @@ TEST_F(ValueTest, GatewayCandidatesRepeatOneKey)
               "<response version=\"1.0.1\">\n"
               "<route-0><key>def_gw_status</key><value>wan-0:0</value></route-0>\n"
               "<route-0><key>def_gw_status</key><value>wan-1:1</value></route-0>\n"
+              "<route-0><key>def_gw_status</key><value>wan-2:0</value></route-0>\n"
               "<webapp><error>0</error></webapp>\n</response>\n");
 }
 

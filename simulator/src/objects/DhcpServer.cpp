@@ -12,31 +12,14 @@ class DhcpServer : public ObjectKind
 public:
     ErrorCode get(Work& work, const Command& command) const override
     {
-        return command.key == "clients" ? numbered(work, command, "client", &ObjectKind::get)
+        return command.key == "clients" ? readNumbered(work, command, "client", &ObjectKind::get)
                                         : ObjectKind::get(work, command);
     }
 
     ErrorCode query(Work& work, const Command& command) const override
     {
-        return command.key == "leases" ? numbered(work, command, "lease", &ObjectKind::query)
+        return command.key == "leases" ? readNumbered(work, command, "lease", &ObjectKind::query)
                                        : ObjectKind::query(work, command);
-    }
-
-private:
-    using Read = ErrorCode (ObjectKind::*)(Work&, const Command&) const;
-
-    static ErrorCode numbered(Work& work, const Command& command, const std::string& stem,
-                              Read read)
-    {
-        static const ObjectKind plain;
-        for (int i = 0;; ++i) {
-            const std::size_t before = work.reply.size();
-            Command one = command;
-            one.key = stem + std::to_string(i);
-            (plain.*read)(work, one);
-            if (work.reply.size() == before)
-                return ErrorCode::None;
-        }
     }
 };
 

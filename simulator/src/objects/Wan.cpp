@@ -1,4 +1,6 @@
-#include "Wan.h"
+#include "Modem.h"
+#include "ObjectKind.h"
+#include "Uplink.h"
 
 #include <algorithm>
 
@@ -9,22 +11,57 @@ namespace
 {
 
 const char* const entityLevel = "entities.";
-
-bool isEnabled(const State& state, const std::string& wan)
-{
-    return valueIn(state.running.read(), wan, "enabled") == "1";
-}
+const char* const modeList = "prefmodelist";
 
 class Wan : public ObjectKind
 {
 public:
+    Values live(const State& state, const std::string& instance) const override
+    {
+        Values values;
+        if (isModem(state, instance))
+            values = networkOf(state, instance);
+        const Uplink uplink = uplinkOf(state, instance);
+        const std::string told = valueIn(state.status.read(), instance, "internet_connection");
+        const bool internet = told.empty() ? reachesInternet(state, instance) : told == "1";
+        values["isconnected"] = uplink.connected ? "1" : "0";
+        values["localip"] = uplink.address;
+        values["internet_connection"] = uplink.connected && internet ? "1" : "0";
+        return values;
+    }
+
+    ErrorCode get(Work& work, const Command& command) const override
+    {
+        if (command.key == modeList)
+            return readNumbered(work, command, modeList, &ObjectKind::get);
+        // Clients ask every WAN for its `type` and take it from whichever key comes back.
+        Command asked = command;
+        if (command.key == "type" && isNewWan(work.state, command.instance))
+            asked.key = "linktype";
+        return ObjectKind::get(work, asked);
+    }
+
     ErrorCode query(Work& work, const Command& command) const override
     {
-        const bool connection = command.key == "isconnected" || command.key == "localip";
-        if (!connection || isEnabled(work.state, command.instance))
+        if (command.key != "SupportedLinkTypes")
             return ObjectKind::query(work, command);
-        work.answer(command, command.key, command.key == "isconnected" ? "0" : "");
-        return ErrorCode::None;
+        const std::string stem = command.key + "." + command.value;
+        for (int i = 0;; ++i) {
+            const std::string number = std::to_string(i);
+            const std::string type =
+                valueIn(work.state.status.read(), command.instance, stem + number);
+            if (type.empty())
+                return ErrorCode::None;
+            work.answer(command, "linktype" + number, type);
+        }
+    }
+
+    ErrorCode command(Work& work, const Command& command) const override
+    {
+        const ErrorCode error = ObjectKind::command(work, command);
+        if (error == ErrorCode::None && isModem(work.state, command.instance))
+            tryPin(work.state, command.instance);
+        return error;
     }
 
 protected:
@@ -38,6 +75,9 @@ protected:
             changeInterface(values["ifaces"], key == "addIface", value);
             return ErrorCode::None;
         }
+        // Clients that don't know which kind of WAN this is write the type under both names.
+        if (key == (isNewWan(work.state, instance) ? "type" : "linktype"))
+            return ErrorCode::None;
         return ObjectKind::change(work, instance, key, value);
     }
 
@@ -72,11 +112,6 @@ private:
 };
 
 } // namespace
-
-bool isConnected(const State& state, const std::string& wan)
-{
-    return isEnabled(state, wan) && valueIn(state.status.read(), wan, "isconnected") == "1";
-}
 
 const ObjectKind& wan()
 {
