@@ -76,7 +76,7 @@ const ObjectKind& kindOf(const std::string& instance)
     static const std::unordered_map<std::string, const ObjectKind*> kinds{
         {"cfgmgr", &configManager()}, {"devmgr", &deviceManager()}, {"dhcps", &dhcpServer()},
         {"route", &route()},          {"sysmgr", &systemManager()}, {"wan", &wan()},
-        {"webui", &webInterface()},
+        {"webui", &webInterface()},   {"usbhost_mngr", &usbHost()}, {"voice", &voice()},
     };
     const auto kind = kinds.find(managerOf(instance));
     return kind == kinds.end() ? plain : *kind->second;

@@ -48,6 +48,8 @@ const ObjectKind& deviceManager();
 const ObjectKind& dhcpServer();
 const ObjectKind& route();
 const ObjectKind& systemManager();
+const ObjectKind& usbHost();
+const ObjectKind& voice();
 const ObjectKind& wan();
 const ObjectKind& webInterface();
 /// @}
