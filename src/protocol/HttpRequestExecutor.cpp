@@ -87,7 +87,7 @@ int statusOf(NetworkExchange::Ending ending, const NetworkExchange& exchange)
     case QNetworkReply::TimeoutError:
         return RequestTimedOut;
     case QNetworkReply::UnknownNetworkError:
-        return wasClosedEarly(reply) ? RequestNetworkFailure : RequestUnknownNetworkError;
+        return RequestUnknownNetworkError;
     default:
         return RequestNetworkFailure;
     }

@@ -34,13 +34,13 @@ TEST_F(ClassicDialectTest, AnswersWithAnElementPerObjectAndPerValue)
 
 TEST_F(ClassicDialectTest, LeavesOutAValueWhoseKeyIsNoElementName)
 {
-    gateway.setValue("voice-0", "Line[0].SIP", "x");
-    gateway.setValue("voice-0", "callhistory:0:19:1", "x");
-    gateway.setValue("voice-0", "0", "x");
-    gateway.setValue("voice-0", "status", "up");
-    EXPECT_EQ(send({"get voice-0 Line[0].SIP", "query voice-0 callhistory:0:19:1", "get voice-0 0",
-                    "query voice-0 status"}),
-              "<response version=\"1.0.0\">\n<voice-0><status>up</status></voice-0>\n"
+    gateway.setValue("product-0", "Line[0].SIP", "x");
+    gateway.setValue("product-0", "numcallentries:", "x");
+    gateway.setValue("product-0", "0", "x");
+    gateway.setValue("product-0", "status", "up");
+    EXPECT_EQ(send({"get product-0 Line[0].SIP", "query product-0 numcallentries:",
+                    "get product-0 0", "query product-0 status"}),
+              "<response version=\"1.0.0\">\n<product-0><status>up</status></product-0>\n"
               "<webapp><error>0</error></webapp>\n</response>\n");
 }
 

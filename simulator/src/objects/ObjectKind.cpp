@@ -115,6 +115,7 @@ const ObjectKind& kindOf(const std::string& instance)
         {"pppox", &pppClient()},       {"route", &route()},
         {"serial", &settingsObject()}, {"static", &settingsObject()},
         {"sysmgr", &systemManager()},  {"wan", &wan()},
+        {"usbhost_mngr", &usbHost()},  {"voice", &voice()},
         {"webui", &webInterface()},
     };
     const auto kind = kinds.find(managerOf(instance));

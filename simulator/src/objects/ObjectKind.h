@@ -65,6 +65,8 @@ const ObjectKind& pppClient();
 const ObjectKind& route();
 const ObjectKind& settingsObject();
 const ObjectKind& systemManager();
+const ObjectKind& usbHost();
+const ObjectKind& voice();
 const ObjectKind& wan();
 const ObjectKind& webInterface();
 /// @}
