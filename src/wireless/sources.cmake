@@ -1,1 +1,4 @@
-target_sources(QuorvelApi1Objects PRIVATE)
+target_sources(QuorvelApi1Objects PRIVATE
+    wireless/AspWirelessImplementor.cpp
+    wireless/AspWirelessImplementorNG.cpp
+    wireless/AspWirelessImplementorV1.cpp)
