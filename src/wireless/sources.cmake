@@ -2,4 +2,7 @@ target_sources(QuorvelApi1Objects PRIVATE
     wireless/AspWirelessImplementor.cpp
     wireless/AspWirelessImplementorNG.cpp
     wireless/AspWirelessImplementorV1.cpp
-    wireless/Capabilities.cpp)
+    wireless/AspWirelessSettingsFacade.cpp
+    wireless/AspWirelessSettingsFacadeNG.cpp
+    wireless/Capabilities.cpp
+    wireless/WirelessCall.cpp)
