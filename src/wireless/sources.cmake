@@ -3,6 +3,7 @@ target_sources(QuorvelApi1Objects PRIVATE
     wireless/AspWirelessImplementorNG.cpp
     wireless/AspWirelessImplementorV1.cpp
     wireless/AspWirelessSettingsFacade.cpp
+    wireless/AspWirelessSettingsFacadeManager.cpp
     wireless/AspWirelessSettingsFacadeNG.cpp
     wireless/Capabilities.cpp
     wireless/WirelessCall.cpp)
