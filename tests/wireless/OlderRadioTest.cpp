@@ -276,7 +276,7 @@ TEST_F(OlderRadio, LeavesOutAMeshLinkThatCannotBeRead)
     gateway
         .reply(reply101({{"devmgr-0", "wireless_wds.inst0", "wireless_wds-0"},
                          {"devmgr-0", "wireless_wds.inst1", "wireless_wds-1"}}))
-        .sendRaw(brokenReply)
+        .sendRaw(failedReply)
         .reply(link("wireless_wds-1", "00:00:5e:00:53:02", "1"));
     EXPECT_EQ(shown(older->getWirelessMeshInstances(error)), text("00:00:5e:00:53:02 on"));
     EXPECT_EQ(error, 0);

@@ -62,9 +62,9 @@ TEST_F(OlderRadioWrite, CountsAnUnreadableReplyToAWriteAsSuccess)
     EXPECT_EQ(error, 0);
 }
 
-TEST_F(OlderRadioWrite, ReportsAWriteThatBreaksOff)
+TEST_F(OlderRadioWrite, ReportsAWriteThatFails)
 {
-    gateway.sendRaw(brokenReply);
+    gateway.sendRaw(failedReply);
     EXPECT_FALSE(older->setWirelessSettings(AspWirelessEnabled, wholeRecord("off"), error));
     EXPECT_EQ(error, 29);
 }

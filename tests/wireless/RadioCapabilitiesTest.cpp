@@ -115,7 +115,7 @@ TEST_F(RadioCapabilities, StayTheOldOnesIfTheRequestFails)
 {
     const auto old = fetch(twoBands);
     log.clear();
-    gateway.sendRaw(brokenReply);
+    gateway.sendRaw(failedReply);
     EXPECT_FALSE(newer->getWirelessCapabilities(error));
     EXPECT_EQ(error, 29);
     EXPECT_EQ(newer->getCapabilities(), old);
@@ -173,7 +173,7 @@ TEST_F(RadioCapabilities, NameNoSecurityModesIfTheTransmitModeCannotBeRead)
 {
     fetch(twoBands);
     log.clear();
-    gateway.sendRaw(brokenReply);
+    gateway.sendRaw(failedReply);
     EXPECT_EQ(newer->getSupportSecurityModes(0), QStringList());
     EXPECT_EQ(ownLines(),
               lines({"ERROR AspWirelessSettingsFacadeNG::getTxMode -> Failed to fetch TxMode!"}));
@@ -214,9 +214,9 @@ TEST_F(RadioCapabilities, TellHowManyMeshLinksAreAskedFor)
 TEST_F(RadioCapabilities, LeaveOutAMeshLinkThatCannotBeRead)
 {
     fetch(twoBands);
-    gateway.sendRaw(brokenReply);
+    gateway.sendRaw(failedReply);
     tellLink("wds1", "00:00:5e:00:53:02", "1");
-    gateway.sendRaw(brokenReply);
+    gateway.sendRaw(failedReply);
     EXPECT_EQ(shown(newer->getWirelessMeshInstances(error)), text("00:00:5e:00:53:02 on"));
     EXPECT_EQ(error, 29);
 }

@@ -75,7 +75,7 @@ TEST_F(WirelessBatch, IsSentThroughTheGenerationOfTheFirstRadio)
 TEST_F(WirelessBatch, IsDoneWhateverBecameOfTheRequest)
 {
     auto manager = of(lines({"wireless_core-0"}));
-    gateway.sendRaw(brokenReply);
+    gateway.sendRaw(failedReply);
     EXPECT_TRUE(manager.setWirelessSettings(twoRecords, error));
     EXPECT_EQ(error, 29);
 }

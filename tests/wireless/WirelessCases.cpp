@@ -27,19 +27,6 @@ ParamMap olderSettings(const char* mode)
             {text("wireless_core-0.enabled"), text("1")}};
 }
 
-/// Settings of the newer generation, with something under every key that could be written.
-ParamMap newerSettings(const char* mode)
-{
-    return {{text("wireless-0.ssid"), text("Home & Garden")},
-            {text("wireless-0.security_mode"), text(mode)},
-            {text("wireless-0.wep_auth_type"), text("shared")},
-            {text("wireless-0.wep_key_type"), text("hex")},
-            {text("wireless-0.wep_key_index"), text("2")},
-            {text("wireless-0.wep_key"), text("0123456789")},
-            {text("wireless-0.wpa_password"), text("a secret")},
-            {text("wireless-0.enabled"), text("0")}};
-}
-
 auto settingOlder(const char* mode)
 {
     return
@@ -53,6 +40,18 @@ auto settingNewer(const char* mode)
 }
 
 } // namespace
+
+ParamMap newerSettings(const char* mode)
+{
+    return {{text("wireless-0.ssid"), text("Home & Garden")},
+            {text("wireless-0.security_mode"), text(mode)},
+            {text("wireless-0.wep_auth_type"), text("shared")},
+            {text("wireless-0.wep_key_type"), text("hex")},
+            {text("wireless-0.wep_key_index"), text("2")},
+            {text("wireless-0.wep_key"), text("0123456789")},
+            {text("wireless-0.wpa_password"), text("a secret")},
+            {text("wireless-0.enabled"), text("0")}};
+}
 
 std::vector<WirelessCase> olderRequests()
 {

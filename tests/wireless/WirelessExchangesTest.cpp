@@ -1,7 +1,6 @@
 #include "protocol/HttpRequestExecutor.h"
 #include "protocol/RequestFormatter.h"
-#include "support/RequestCases.h"
-#include "wireless/WirelessSettingsImplementor.h"
+#include "wireless/WirelessCases.h"
 
 #include <boost/make_shared.hpp>
 
@@ -40,18 +39,6 @@ const QString ap0 = text("ap0");
 const ParamMap olderSettings{{text("wireless_ap-0.ssid"), text("Home")},
                              {text("wireless_ap-0.sec_mode"), text("off")},
                              {text("wireless_core-0.enabled"), text("1")}};
-
-ParamMap newerSettings(const char* mode)
-{
-    return {{text("wireless-0.ssid"), text("Home")},
-            {text("wireless-0.security_mode"), text(mode)},
-            {text("wireless-0.wep_auth_type"), text("open")},
-            {text("wireless-0.wep_key_index"), text("1")},
-            {text("wireless-0.wep_key_type"), text("hex")},
-            {text("wireless-0.wep_key"), text("0123456789")},
-            {text("wireless-0.wpa_password"), text("a secret")},
-            {text("wireless-0.enabled"), text("1")}};
-}
 
 } // namespace
 

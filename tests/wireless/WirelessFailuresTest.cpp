@@ -128,7 +128,7 @@ protected:
     void fails(Radio& radio)
     {
         for (int i = 0; i < GetParam().exchanges; ++i)
-            gateway.sendRaw(brokenReply);
+            gateway.sendRaw(failedReply);
         EXPECT_EQ(GetParam().call(radio, error), text(GetParam().onFailure));
         EXPECT_EQ(error, GetParam().error);
         EXPECT_EQ(ownLines(), GetParam().lines);

@@ -1,7 +1,11 @@
 #include <quorvel/AspCpeFacadeObject.h>
 #include <quorvel/AspWirelessSettingsFacadeManager.h>
 
-#include "wireless/WirelessFixture.h"
+#include "support/FacadeOnGateway.h"
+#include "support/Golden.h"
+#include "support/RecognisedGateway.h"
+#include "support/Replies.h"
+#include "support/Transcript.h"
 
 namespace quorvel::test
 {
@@ -9,19 +13,16 @@ namespace quorvel::test
 namespace
 {
 
-/// A gateway that is recognised over the wire.
-class WirelessHandle : public testing::Test
+class WirelessHandle : public RecognisedGateway
 {
 protected:
-    /// Scripts the recognition of a gateway with these managers.
-    void recognise(std::initializer_list<Entry> managers)
+    /// Scripts the recognition of a gateway with dialect 1.0.0 and these managers.
+    void recognise(std::initializer_list<const char*> managers)
     {
-        gateway.logIn().reply(reply100(managers));
+        gateway.logIn().reply(managerList100(lines(managers)));
     }
 
-    LogCapture log;
-    ScriptedGateway gateway;
-    AspCpeFacadeObject object{{text("admin"), text("secret"), gateway.address()}};
+    AspCpeFacadeObject object{info()};
     AspWebAppErrorCodes error = AspWebAppNoError;
     int result = 77;
 };
@@ -37,9 +38,7 @@ const QString olderRadio = reply100({{"devmgr-0", "wireless_core.inst0", "wirele
 
 TEST_F(WirelessHandle, HandsOutAManagerOfTheGatewaysRadios)
 {
-    recognise({{"devmgr-0", "mngr0", "devmgr"},
-               {"devmgr-0", "mngr1", "wireless_core"},
-               {"devmgr-0", "mngr2", "wireless"}});
+    recognise({"devmgr", "wireless_core", "wireless"});
     gateway.reply(bothRadios).reply(reply100({{"webapp", "error", "0"}}));
     const auto manager = object.getWirelessSettingsFacadeImp(&result);
     ASSERT_TRUE(manager);
@@ -53,7 +52,7 @@ TEST_F(WirelessHandle, HandsOutAManagerOfTheGatewaysRadios)
 
 TEST_F(WirelessHandle, HandsOutAManagerWithARadioChosen)
 {
-    recognise({{"devmgr-0", "mngr0", "devmgr"}, {"devmgr-0", "mngr1", "wireless_core"}});
+    recognise({"devmgr", "wireless_core"});
     gateway.reply(olderRadio)
         .reply(reply100({{"wireless_core-0", "enabled", "0"}}))
         .reply(olderRadio)
@@ -66,7 +65,7 @@ TEST_F(WirelessHandle, HandsOutAManagerWithARadioChosen)
 
 TEST_F(WirelessHandle, HandsOutAManagerWithARadioChosenThatDoesNotExist)
 {
-    recognise({{"devmgr-0", "mngr0", "devmgr"}, {"devmgr-0", "mngr1", "wireless_core"}});
+    recognise({"devmgr", "wireless_core"});
     gateway
         .reply(reply100({{"devmgr-0", "wireless_core.inst0", "wireless_core-0"},
                          {"devmgr-0", "wireless_core.inst1", "wireless_core-1"},
@@ -80,8 +79,8 @@ TEST_F(WirelessHandle, HandsOutAManagerWithARadioChosenThatDoesNotExist)
 
 TEST_F(WirelessHandle, HandsOutAManagerWithoutRadiosIfTheyCannotBeListed)
 {
-    recognise({{"devmgr-0", "mngr0", "devmgr"}, {"devmgr-0", "mngr1", "wireless_core"}});
-    gateway.sendRaw(brokenReply);
+    recognise({"devmgr", "wireless_core"});
+    gateway.sendRaw(failedReply);
     const auto manager = object.getWirelessSettingsFacade();
     ASSERT_TRUE(manager);
     EXPECT_EQ(manager->getManagerCount(), 0);
@@ -89,7 +88,7 @@ TEST_F(WirelessHandle, HandsOutAManagerWithoutRadiosIfTheyCannotBeListed)
 
 TEST_F(WirelessHandle, HandsOutAManagerWithoutRadiosOfAGatewayWithoutGeneralSettings)
 {
-    recognise({{"devmgr-0", "mngr0", "wireless_core"}});
+    recognise({"wireless_core"});
     const auto manager = object.getWirelessSettingsFacadeImp(0, &result);
     ASSERT_TRUE(manager);
     EXPECT_EQ(result, 0);
@@ -101,7 +100,7 @@ TEST_F(WirelessHandle, HandsOutAManagerWithoutRadiosOfAGatewayWithoutGeneralSett
 
 TEST_F(WirelessHandle, HandsOutNoManagerOfAGatewayWithoutRadios)
 {
-    recognise({{"devmgr-0", "mngr0", "devmgr"}});
+    recognise({"devmgr"});
     EXPECT_FALSE(object.getWirelessSettingsFacadeImp(&result));
     EXPECT_EQ(result, 0);
     EXPECT_EQ(log.lines().last(), noVersion);
@@ -115,7 +114,7 @@ TEST_F(WirelessHandle, HandsOutNoManagerOfAGatewayWithoutRadios)
 
 TEST_F(WirelessHandle, HandsOutNoManagerOfAGatewayThatCannotBeRecognised)
 {
-    gateway.refuseLogin().refuseLogin();
+    scriptRefusal(2);
     EXPECT_FALSE(object.getWirelessSettingsFacadeImp(&result));
     EXPECT_EQ(result, -1);
     EXPECT_FALSE(log.lines().contains(noVersion));

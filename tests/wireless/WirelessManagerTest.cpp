@@ -74,7 +74,7 @@ TEST_F(WirelessManager, AsksEachNewerRadioOnceWhatItCanDo)
 
 TEST_F(WirelessManager, ServesARadioThatDoesNotTellWhatItCanDo)
 {
-    gateway.sendRaw(brokenReply);
+    gateway.sendRaw(failedReply);
     AspWirelessSettingsFacadeManager manager(cpe, lines({"wireless-0"}));
     EXPECT_EQ(manager.getManagerCount(), 1);
     manager.setManagerId(0);
@@ -184,7 +184,7 @@ TEST_F(WirelessManager, JoinsTheStationsOfAllRadios)
 TEST_F(WirelessManager, JoinsTheStationsOfTheOtherRadiosIfOneFails)
 {
     auto manager = of(lines({"wireless_core-0", "wireless_core-1"}));
-    gateway.sendRaw(brokenReply)
+    gateway.sendRaw(failedReply)
         .reply(reply101({{"wireless_ap-0", "station1.sta_mac", "00:00:5e:00:53:02"}}));
     EXPECT_EQ(manager.getWirelessClientMacList(error), lines({"00:00:5e:00:53:02"}));
     EXPECT_EQ(error, 0);
@@ -193,7 +193,7 @@ TEST_F(WirelessManager, JoinsTheStationsOfTheOtherRadiosIfOneFails)
 TEST_F(WirelessManager, KeepsTheErrorOfTheLastRadioThatHasOne)
 {
     auto manager = ofBoth();
-    gateway.sendRaw(brokenReply);
+    gateway.sendRaw(failedReply);
     EXPECT_EQ(manager.getWirelessClientMacList(error), QStringList());
     // The newer radio behind isn't asked for stations and leaves the error alone.
     EXPECT_EQ(error, 29);
@@ -228,7 +228,7 @@ TEST_F(WirelessManager, AsksForSecurityUntilARadioHasIt)
 TEST_F(WirelessManager, FindsNoSecurityIfNoRadioHasIt)
 {
     auto manager = of(lines({"wireless_core-0", "wireless_core-1"}));
-    gateway.reply(reply101({{"wireless_ap-0", "sec_mode", "off"}})).sendRaw(brokenReply);
+    gateway.reply(reply101({{"wireless_ap-0", "sec_mode", "off"}})).sendRaw(failedReply);
     EXPECT_FALSE(manager.isWirelessSecurityEnabled(error));
     EXPECT_EQ(error, 29);
 }
