@@ -16,6 +16,7 @@ class AspGeneralSettingsFacade;
 class AspUsbHostSettingsFacade;
 class AspVoipSettingsFacade;
 class AspWanSettingsFacade;
+class AspWirelessSettingsFacadeManager;
 class Cpe;
 
 /// The host's handle on one gateway: it recognises the gateway when it is first needed, tells which
@@ -97,6 +98,22 @@ public:
     /// The same without telling why it is empty.
     boost::shared_ptr<AspWanSettingsFacade> getWanSettingsFacade();
 
+    /// A new manager of the gateway's radios, with none of them chosen. Empty if the gateway can't
+    /// be recognised (`result`, unless null, then holds -1) or has no radio (`result` holds 0).
+    ///
+    /// Asks the gateway for its radios and each newer one for its capabilities: an exchange, and
+    /// another per newer radio. A gateway that doesn't answer, or lacks general settings, gives a
+    /// manager without radios. The parts of a manager stay to the end of the process, so keep it
+    /// rather than make another.
+    boost::shared_ptr<AspWirelessSettingsFacadeManager> getWirelessSettingsFacadeImp(int* result);
+    /// The same with the radio `managerId` chosen, from 0; any number may be given.
+    boost::shared_ptr<AspWirelessSettingsFacadeManager> getWirelessSettingsFacadeImp(int managerId,
+                                                                                     int* result);
+    /// The first form without telling why it is empty.
+    boost::shared_ptr<AspWirelessSettingsFacadeManager> getWirelessSettingsFacade();
+    /// The second form without telling why it is empty.
+    boost::shared_ptr<AspWirelessSettingsFacadeManager> getWirelessSettingsFacade(int managerId);
+
     /// A new facade on the gateway's telephony, under the same rules.
     boost::shared_ptr<AspVoipSettingsFacade> getVoipSettingsFacade(int* result);
     /// The same without telling why it is empty.
@@ -128,6 +145,7 @@ private:
 
     bool refreshSession();
     bool reconstructCpe();
+    bool hasFamily(int* result, IsPresent isPresent, const char* failureLine);
     template <typename Facade>
     boost::shared_ptr<Facade> makeFacade(int* result, IsPresent isPresent, const char* failureLine);
 

@@ -5,6 +5,7 @@
 #include <quorvel/AspUsbHostSettingsFacade.h>
 #include <quorvel/AspVoipSettingsFacade.h>
 #include <quorvel/AspWanSettingsFacade.h>
+#include <quorvel/AspWirelessSettingsFacadeManager.h>
 
 #include "assembly/Cpe.h"
 #include "assembly/CpeBuilderDirector.h"
@@ -202,18 +203,24 @@ bool AspCpeFacadeObject::hasVdsl()
                QStringLiteral("OSTRA_CONFIG_SHOWVDSLSETTINGS")) == QLatin1String("1");
 }
 
-template <typename Facade>
-boost::shared_ptr<Facade> AspCpeFacadeObject::makeFacade(int* result, IsPresent isPresent,
-                                                         const char* failureLine)
+bool AspCpeFacadeObject::hasFamily(int* result, IsPresent isPresent, const char* failureLine)
 {
     if (!cpe && !refreshCpe())
         report(result, -1);
     if (!cpe)
-        return boost::shared_ptr<Facade>();
-    if (!isPresent(getCpeProperties(result))) {
+        return false;
+    const bool present = isPresent(getCpeProperties(result));
+    if (!present)
         logError(QLatin1String(failureLine));
+    return present;
+}
+
+template <typename Facade>
+boost::shared_ptr<Facade> AspCpeFacadeObject::makeFacade(int* result, IsPresent isPresent,
+                                                         const char* failureLine)
+{
+    if (!hasFamily(result, isPresent, failureLine))
         return boost::shared_ptr<Facade>();
-    }
     return boost::make_shared<Facade>(cpe);
 }
 
@@ -256,6 +263,39 @@ boost::shared_ptr<AspWanSettingsFacade> AspCpeFacadeObject::getWanSettingsFacade
 boost::shared_ptr<AspWanSettingsFacade> AspCpeFacadeObject::getWanSettingsFacade()
 {
     return getWanSettingsFacade(nullptr);
+}
+
+boost::shared_ptr<AspWirelessSettingsFacadeManager>
+AspCpeFacadeObject::getWirelessSettingsFacadeImp(int* result)
+{
+    if (!hasFamily(
+            result, [](const AspCpeProperties& found) { return !found.wirelessVersion.isEmpty(); },
+            "AspCpeFacadeObject::getWirelessSettingsFacade -> WirelessVersion is invalid."))
+        return boost::shared_ptr<AspWirelessSettingsFacadeManager>();
+    // Without general settings nobody can tell the radios.
+    const auto general = getGeneralSettingsFacade();
+    const QList<QString> radios = general ? general->getWirelessCoreList() : QList<QString>();
+    return boost::make_shared<AspWirelessSettingsFacadeManager>(cpe, radios);
+}
+
+boost::shared_ptr<AspWirelessSettingsFacadeManager>
+AspCpeFacadeObject::getWirelessSettingsFacadeImp(int managerId, int* result)
+{
+    const auto manager = getWirelessSettingsFacadeImp(result);
+    if (manager)
+        manager->setManagerId(managerId);
+    return manager;
+}
+
+boost::shared_ptr<AspWirelessSettingsFacadeManager> AspCpeFacadeObject::getWirelessSettingsFacade()
+{
+    return getWirelessSettingsFacadeImp(nullptr);
+}
+
+boost::shared_ptr<AspWirelessSettingsFacadeManager> AspCpeFacadeObject::getWirelessSettingsFacade(
+    int managerId)
+{
+    return getWirelessSettingsFacadeImp(managerId, nullptr);
 }
 
 boost::shared_ptr<AspVoipSettingsFacade> AspCpeFacadeObject::getVoipSettingsFacade(int* result)

@@ -5,6 +5,17 @@
 namespace quorvel
 {
 
+QList<QString> numberedValues(const ParamMap& reply, const QString& stem, int first)
+{
+    QList<QString> values;
+    for (int number = first;; ++number) {
+        const auto value = reply.constFind(stem + QString::number(number));
+        if (value == reply.constEnd())
+            return values;
+        values.append(*value);
+    }
+}
+
 QList<QString> listedValues(const ParamMap& reply, std::initializer_list<QString> leftOut,
                             QString& listing)
 {

@@ -55,6 +55,10 @@ Enumeration meaningOf(const QString& text, const Word<Enumeration> (&words)[coun
     return otherwise;
 }
 
+/// The values of the entries `stem` and a number, counted up from `first` to the first number that
+/// the reply lacks.
+QList<QString> numberedValues(const ParamMap& reply, const QString& stem, int first);
+
 /// The values of a reply that lists names, in key order, without its status entries; `listing`
 /// receives them as the log shows them.
 QList<QString> listedValues(const ParamMap& reply, std::initializer_list<QString> leftOut,

@@ -11,11 +11,29 @@
 #include "voice/AspVoipImplementorV2.h"
 #include "wan/AspWanSettingsImplementorV1.h"
 #include "wan/AspWanSettingsImplementorV2.h"
+#include "wireless/AspWirelessImplementorNG.h"
+#include "wireless/AspWirelessImplementorV1.h"
 
 #include <boost/make_shared.hpp>
 
 namespace quorvel
 {
+
+namespace
+{
+
+/// A gateway may have radios of both generations.
+void addRadios(Cpe& cpe, const ParamMap& parameters)
+{
+    if (!parameters.contains(CPE_PARAM_WIRELESS_VERSION))
+        return;
+    if (parameters.value(CPE_PARAM_WIRELESS_CORE_VERSION) == QLatin1String("1"))
+        cpe.setWirelessImplementor(boost::make_shared<AspWirelessImplementorV1>());
+    if (parameters.value(CPE_PARAM_WIRELESS_NG_VERSION) == QLatin1String("1"))
+        cpe.setWirelessImplementorNG(boost::make_shared<AspWirelessImplementorNG>());
+}
+
+} // namespace
 
 bool TelvoraCpeBuilderAspV1::buildSettingsImplementors()
 {
@@ -26,6 +44,7 @@ bool TelvoraCpeBuilderAspV1::buildSettingsImplementors()
     if (parameters.contains(CPE_PARAM_ADSL_VERSION) ||
         parameters.contains(CPE_PARAM_ETHERNET_VERSION))
         cpe->setAdslImplementor(boost::make_shared<AspAdslImplementorV1>());
+    addRadios(*cpe, parameters);
     if (parameters.value(CPE_PARAM_VOIP_VERSION) == QLatin1String("1"))
         cpe->setVoipImplementor(boost::make_shared<AspVoipImplementorV1>());
     else if (parameters.contains(CPE_PARAM_VOIP_VERSION))

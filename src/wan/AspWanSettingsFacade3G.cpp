@@ -35,17 +35,6 @@ const Word<Asp3GConnectionMode> connectionModeWords[] = {
     {"hsupa mode", Asp3GConnectionModeHsupa},
     {"hsdpa and hsupa mode", Asp3GConnectionModeHsdpaAndHsupa}};
 
-QList<QString> prefModesIn(const ParamMap& reply, const QString& wan)
-{
-    QList<QString> modes;
-    for (int i = 0;; ++i) {
-        const auto mode = reply.constFind(replyKey(wan, wire::prefmodelist) + QString::number(i));
-        if (mode == reply.constEnd())
-            return modes;
-        modes.append(*mode);
-    }
-}
-
 Asp3GSettings settingsIn(const ParamMap& reply, const QString& wan, const QString& settingsInstance)
 {
     const auto value = [&](QLatin1String entry) { return reply.value(replyKey(wan, entry)); };
@@ -62,7 +51,7 @@ Asp3GSettings settingsIn(const ParamMap& reply, const QString& wan, const QStrin
     settings.connectionMode =
         meaningOf(value(wire::connectionMode), connectionModeWords, Asp3GConnectionModeUnknown);
     settings.signalStrength = value(wire::signalStrength).toInt();
-    settings.prefModeList = prefModesIn(reply, wan);
+    settings.prefModeList = numberedValues(reply, replyKey(wan, wire::prefmodelist), 0);
     return settings;
 }
 
