@@ -1,12 +1,12 @@
 #include "protocol/AspResponseParser3g.h"
 #include "protocol/AspResponseParserV1.h"
 #include "protocol/AspResponseParserV2.h"
+#include "support/MemoryWatch.h"
 #include "support/Text.h"
 
 #include <QThread>
 #include <gtest/gtest.h>
 #include <memory>
-#include <sys/resource.h>
 
 namespace quorvel::test
 {
@@ -37,13 +37,6 @@ void onSmallStack(Work work)
     thread->setStackSize(256 * 1024);
     thread->start();
     thread->wait();
-}
-
-long peakKilobytes()
-{
-    rusage usage{};
-    ::getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss;
 }
 
 /// A document of so many levels of elements, root included, with a text in the innermost.
@@ -213,9 +206,9 @@ void expectNothingReadByAny(const QString& document)
 
 TEST_P(EntityDocument, IsRefusedBeforeItGrows)
 {
-    const long before = peakKilobytes();
+    const MemoryWatch memory;
     expectNothingReadByAny(GetParam().content);
-    EXPECT_LT(peakKilobytes() - before, 64 * 1024);
+    EXPECT_LE(memory.grownMegabytes(), 64);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -1,6 +1,7 @@
 #include "general/GeneralSettingsImplementor.h"
 #include "protocol/HttpRequestExecutor.h"
 #include "support/BuiltGateway.h"
+#include "support/MemoryWatch.h"
 #include "support/Text.h"
 
 #include <quorvel/AspGeneralSettingsFacade.h>
@@ -9,7 +10,6 @@
 #include <boost/make_shared.hpp>
 #include <gmock/gmock.h>
 #include <ostream>
-#include <sys/resource.h>
 
 namespace quorvel::test
 {
@@ -122,13 +122,6 @@ int openFiles()
     return QDir(text("/proc/self/fd")).entryList(QDir::System | QDir::NoDotAndDotDot).size();
 }
 
-long peakKilobytes()
-{
-    rusage usage{};
-    ::getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss;
-}
-
 /// Asks for the firmware's version while the gateway misbehaves.
 class TransportFault : public BuiltGateway, public testing::WithParamInterface<Fault>
 {
@@ -156,7 +149,7 @@ protected:
 TEST_P(TransportFault, IsReportedAfterOneRequestAndTheNextOneWorks)
 {
     int files = 0;
-    const long memory = peakKilobytes();
+    const MemoryWatch memory;
     for (int round = 1; round <= GetParam().repetitions; ++round) {
         const int before = gateway.requests().size();
         GetParam().play(gateway);
@@ -173,7 +166,7 @@ TEST_P(TransportFault, IsReportedAfterOneRequestAndTheNextOneWorks)
     }
     // The gateway's own ends of the connections may be open still.
     EXPECT_LE(openFiles(), files + 4);
-    EXPECT_LT(peakKilobytes() - memory, 64 * 1024);
+    EXPECT_LE(memory.grownMegabytes(), 64);
 }
 
 INSTANTIATE_TEST_SUITE_P(
