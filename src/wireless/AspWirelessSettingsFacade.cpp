@@ -142,14 +142,10 @@ bool AspWirelessSettingsFacade::setWirelessSettings(const AspWirelessStatus& sta
                                                     const AspWirelessSettings& settings,
                                                     AspWebAppErrorCodes& error)
 {
-    FacadeCall call(*this, error);
-    if (!call.isPermitted() || !call.cpe()->getWirelessImplementor())
-        return false;
-    const bool done = call.ask(family, &Implementor::setWirelessSettings,
-                               valuesToWrite(status, settings, manager), manager);
-    call.reportError();
     // A failure without a trace is a reply that was lost while the radio restarts.
-    return done || call.reply().isEmpty();
+    return changeUnlessDenied(*this, error,
+                              asking(family, &Implementor::setWirelessSettings,
+                                     valuesToWrite(status, settings, manager), manager));
 }
 
 QString AspWirelessSettingsFacade::getWirelessSettingsQuery(const AspWirelessStatus& status,

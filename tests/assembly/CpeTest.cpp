@@ -43,24 +43,22 @@ protected:
     // Before the recorders' list goes.
     ~CpeOfBuiltGateway() override { cpe.reset(); }
 
-    /// Gives the family's transport away, if the gateway has the family; returns its name then.
-    QStringList record(const char* name, boost::shared_ptr<CpeSettingsImplementor> implementor)
+    /// Gives the family's transport away to one that notes aborts, if the gateway has the family.
+    void record(const char* name, boost::shared_ptr<CpeSettingsImplementor> implementor)
     {
-        if (!implementor)
-            return {};
-        implementor->setRequestExecutor(boost::make_shared<AbortRecorder>(name, aborted));
-        return {text(name)};
+        if (implementor)
+            implementor->setRequestExecutor(boost::make_shared<AbortRecorder>(name, aborted));
     }
 
-    /// Records the aborts of all families; returns the abortable ones in order.
-    QStringList recordAborts()
+    void recordAborts()
     {
         record("newer radio", cpe->getWirelessImplementorNG());
-        return record("general", cpe->getGeneralImplementor()) +
-               record("dsl", cpe->getAdslImplementor()) + record("wan", cpe->getWanImplementor()) +
-               record("radio", cpe->getWirelessImplementor()) +
-               record("usb host", cpe->getUsbHostImplementor()) +
-               record("telephony", cpe->getVoipImplementor());
+        record("general", cpe->getGeneralImplementor());
+        record("dsl", cpe->getAdslImplementor());
+        record("wan", cpe->getWanImplementor());
+        record("radio", cpe->getWirelessImplementor());
+        record("usb host", cpe->getUsbHostImplementor());
+        record("telephony", cpe->getVoipImplementor());
     }
 
     AspCpeSessionStorage& storage() { return *AspCpeSessionStorage::getInstance(); }
@@ -113,10 +111,9 @@ TEST(Cpe, AbortsAnImplementorWithoutTransport)
 TEST_F(CpeOfBuiltGateway, AbortsTheFamiliesThatItHasInOrderButNewerRadios)
 {
     buildNewest();
-    const QStringList abortable = recordAborts();
-    EXPECT_GE(abortable.size(), 2);
+    recordAborts();
     cpe->abortPendingRequests();
-    EXPECT_EQ(aborted, abortable);
+    EXPECT_EQ(aborted, lines({"general", "dsl", "wan", "radio", "usb host", "telephony"}));
 }
 
 TEST_F(CpeOfBuiltGateway, AbortsInTheSameWayWhenItGoes)
