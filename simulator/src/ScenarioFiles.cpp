@@ -1,4 +1,4 @@
-#include "quorvel-simulator/Scenario.h"
+#include "ScenarioFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -69,15 +69,21 @@ std::optional<Scenario> failure(const std::string& reason, std::string* error)
 
 std::optional<Scenario> Scenario::load(const std::string& nameOrPath, std::string* error)
 {
+    return loadScenario(nameOrPath, 0, error);
+}
+
+std::optional<Scenario> loadScenario(const std::string& nameOrPath, int above, std::string* error)
+{
     const QString path = fileOf(QString::fromStdString(nameOrPath));
     if (path.isEmpty()) {
-        return failure("there is no scenario '" + nameOrPath + "', only " + joined(names()), error);
+        return failure(
+            "there is no scenario '" + nameOrPath + "', only " + joined(Scenario::names()), error);
     }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         return failure(path.toStdString() + ": " + file.errorString().toStdString(), error);
     }
-    auto scenario = fromJson(file.readAll().toStdString(), path.toStdString(), error);
+    auto scenario = readScenario(file.readAll().toStdString(), path.toStdString(), above, error);
     if (scenario)
         scenario->name = QFileInfo(path).completeBaseName().toStdString();
     return scenario;

@@ -1,4 +1,4 @@
-#include "quorvel-simulator/Scenario.h"
+#include "ScenarioFiles.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -20,8 +20,14 @@ public:
 
     void add(const QString& place, const std::string& problem)
     {
+        addWhole(origin + ": " + (place.isEmpty() ? "" : place.toStdString() + ": ") + problem);
+    }
+
+    /// A problem that says itself where it is.
+    void addWhole(const std::string& problem)
+    {
         if (first.empty())
-            first = origin + ": " + (place.isEmpty() ? "" : place.toStdString() + ": ") + problem;
+            first = problem;
     }
 
     const std::string& text() const { return first; }
@@ -84,6 +90,43 @@ Values readFlat(const QJsonValue& value, const QString& place, Problems& problem
     return values;
 }
 
+// Values that are JSON themselves, for the few that a gateway tells in that form.
+Values readDocuments(const QJsonValue& value, const QString& place, Problems& problems)
+{
+    Values values;
+    const QJsonObject documents = readObject(value, place, problems);
+    for (auto document = documents.begin(); document != documents.end(); ++document) {
+        const QJsonObject content =
+            readObject(document.value(), below(place, document.key()), problems);
+        values[document.key().toStdString()] =
+            QJsonDocument(content).toJson(QJsonDocument::Compact).toStdString();
+    }
+    return values;
+}
+
+// What a base has under other keys stays.
+void replace(Values& values, const Values& changes)
+{
+    for (const auto& [key, value] : changes)
+        values[key] = value;
+}
+
+void readParts(const QJsonObject& parts, const QString& place, const std::string& instance,
+               Scenario& scenario, Problems& problems)
+{
+    for (auto part = parts.begin(); part != parts.end(); ++part) {
+        const QString where = below(place, part.key());
+        if (part.key() == QLatin1String("configuration"))
+            replace(scenario.configuration[instance], readFlat(part.value(), where, problems));
+        else if (part.key() == QLatin1String("status"))
+            replace(scenario.status[instance], readFlat(part.value(), where, problems));
+        else if (part.key() == QLatin1String("documents"))
+            replace(scenario.status[instance], readDocuments(part.value(), where, problems));
+        else
+            problems.add(where, "is neither configuration nor status nor documents");
+    }
+}
+
 void readObjects(const QJsonValue& value, const QString& place, Scenario& scenario,
                  Problems& problems)
 {
@@ -92,16 +135,7 @@ void readObjects(const QJsonValue& value, const QString& place, Scenario& scenar
         const std::string instance = object.key().toStdString();
         const QString where = below(place, object.key());
         scenario.configuration[instance];
-        const QJsonObject parts = readObject(object.value(), where, problems);
-        for (auto part = parts.begin(); part != parts.end(); ++part) {
-            const Values values = readFlat(part.value(), below(where, part.key()), problems);
-            if (part.key() == QLatin1String("configuration"))
-                scenario.configuration[instance] = values;
-            else if (part.key() == QLatin1String("status"))
-                scenario.status[instance] = values;
-            else
-                problems.add(below(where, part.key()), "is neither configuration nor status");
-        }
+        readParts(readObject(object.value(), where, problems), where, instance, scenario, problems);
     }
 }
 
@@ -139,6 +173,7 @@ void readManagers(const QJsonValue& value, const QString& place, Scenario& scena
 {
     if (!value.isArray())
         problems.add(place, "must be a list in brackets");
+    scenario.managers.clear();
     for (const QJsonValue& manager : value.toArray())
         scenario.managers.push_back(readText(manager, place, problems));
 }
@@ -199,14 +234,31 @@ const std::vector<TopLevelKey>& topLevel()
     return keys;
 }
 
-void readTopLevel(const QJsonObject& root, Scenario& scenario, Problems& problems)
+// The scenario to which all else is added.
+void readBase(const QJsonValue& value, const QString& place, int above, Scenario& scenario,
+              Problems& problems)
 {
-    QStringList known;
+    std::string error;
+    const std::string name = readText(value, place, problems);
+    if (above == highestStack)
+        problems.add(place, "stands on too many others, or on itself");
+    else if (auto base = loadScenario(name, above + 1, &error))
+        scenario = *base;
+    else
+        problems.addWhole(error);
+}
+
+void readTopLevel(const QJsonObject& root, int above, Scenario& scenario, Problems& problems)
+{
+    QStringList known{QStringLiteral("base")};
+    const bool based = root.contains(known.first());
+    if (based)
+        readBase(root[known.first()], known.first(), above, scenario, problems);
     for (const TopLevelKey& key : topLevel()) {
         known.append(QString::fromLatin1(key.name));
         if (root.contains(known.last()))
             key.read(root[known.last()], known.last(), scenario, problems);
-        else if (key.required)
+        else if (key.required && !based)
             problems.add(known.last(), "is missing");
     }
     for (const QString& key : root.keys()) {
@@ -232,6 +284,12 @@ int lineOf(const QByteArray& json, int offset)
 std::optional<Scenario> Scenario::fromJson(const std::string& json, const std::string& origin,
                                            std::string* error)
 {
+    return readScenario(json, origin, 0, error);
+}
+
+std::optional<Scenario> readScenario(const std::string& json, const std::string& origin, int above,
+                                     std::string* error)
+{
     Problems problems(origin);
     const auto bytes = QByteArray::fromStdString(json);
     QJsonParseError syntax;
@@ -244,8 +302,9 @@ std::optional<Scenario> Scenario::fromJson(const std::string& json, const std::s
     if (problems.text().empty() && !document.isObject())
         problems.add({}, "must be an object in braces");
     Scenario scenario;
-    readTopLevel(root, scenario, problems);
+    readTopLevel(root, above, scenario, problems);
     addFixedObjects(scenario);
+    scenario.name.clear();
     if (problems.text().empty())
         return scenario;
     if (error)

@@ -134,6 +134,71 @@ TEST(ScenarioTest, NestedValuesBecomeKeysWithDotsAndNumbers)
     EXPECT_EQ(scenario->rebootTime, 70);
 }
 
+TEST(ScenarioTest, DocumentsAreRunTimeValuesInJson)
+{
+    const auto scenario = Scenario::fromJson(
+        R"({"dialect": "1.0.1", "login": {"user": "u", "password": "p"}, "managers": [],
+            "objects": {"wireless-0": {"status": {"a": "1"},
+                                       "documents": {"can": {"bands": [ 2, {} ], "x": null}}}}})",
+        "home.json");
+    ASSERT_TRUE(scenario);
+    EXPECT_THAT(scenario->status.at("wireless-0"),
+                ElementsAre(Pair("a", "1"), Pair("can", R"({"bands":[2,{}],"x":null})")));
+}
+
+TEST(ScenarioTest, ABaseIsWhatAllElseIsAddedTo)
+{
+    TemporaryFolder folder;
+    const std::string base =
+        folder.write("base.json", R"({"dialect": "1.0.0", "description": "Old", "reboot_time_ms": 7,
+                         "login": {"user": "u", "password": "p"}, "managers": ["devmgr", "wan"],
+                         "environment": {"PRODUCT_ID": "x", "SERIAL_NUMBER": "1"},
+                         "objects": {"conn-0": {"configuration": {"hostname": "a", "port": "1"}},
+                                     "eth-0": {"status": {"linkstate": "1"}}}})");
+    const auto scenario = Scenario::load(
+        folder.write("mine.json", R"({"base": ")" + base +
+                                      R"(", "description": "New", "managers": ["conn"],
+                         "environment": {"PRODUCT_ID": "y"},
+                         "objects": {"conn-0": {"configuration": {"hostname": "b"},
+                                                "status": {"up": "1"}}}})"));
+    ASSERT_TRUE(scenario);
+    EXPECT_EQ(scenario->name, "mine");
+    EXPECT_EQ(scenario->description, "New");
+    EXPECT_EQ(scenario->dialect, "1.0.0");
+    EXPECT_EQ(scenario->user, "u");
+    EXPECT_EQ(scenario->rebootTime, 7);
+    EXPECT_THAT(scenario->managers, ElementsAre("conn"));
+    EXPECT_THAT(scenario->environment, ElementsAre(Pair("PRODUCT_ID", "y")));
+    EXPECT_THAT(scenario->configuration.at("conn-0"),
+                ElementsAre(Pair("hostname", "b"), Pair("port", "1")));
+    EXPECT_THAT(scenario->status.at("conn-0"), ElementsAre(Pair("up", "1")));
+    EXPECT_THAT(scenario->status.at("eth-0"), ElementsAre(Pair("linkstate", "1")));
+    EXPECT_EQ(scenario->configuration.at("webui-0").at("password"), "p");
+}
+
+TEST(ScenarioTest, AMistakeInABaseIsExplainedThere)
+{
+    TemporaryFolder folder;
+    const std::string base = folder.write("base.json", R"({"dialect": "1.0.2"})");
+    EXPECT_EQ(problemIn(R"({"base": ")" + base + R"("})"),
+              base + R"(: dialect: must be "1.0.0" or "1.0.1")");
+    EXPECT_EQ(problemIn(R"({"base": 1})"), "home.json: base: must be a text in quotes");
+    EXPECT_THAT(problemIn(R"({"base": "unicorn"})"),
+                testing::StartsWith("there is no scenario 'unicorn', only classic, "));
+}
+
+TEST(ScenarioTest, NoScenarioStandsOnItself)
+{
+    TemporaryFolder folder;
+    folder.write("one.json", R"({"base": "two"})");
+    const std::string two = folder.write("two.json", R"({"base": "one"})");
+    setenv("QUORVEL_SCENARIO_DIR", folder.name(), 1);
+    std::string error;
+    EXPECT_FALSE(Scenario::load("two", &error));
+    unsetenv("QUORVEL_SCENARIO_DIR");
+    EXPECT_EQ(error, two + ": base: stands on too many others, or on itself");
+}
+
 TEST(ScenarioTest, BadFilesAreExplainedByFileAndKey)
 {
     EXPECT_EQ(problemIn(small), "none");
@@ -166,7 +231,7 @@ TEST(ScenarioTest, BadObjectsAreExplainedByFileAndKey)
     EXPECT_EQ(problemWith("{}", "1.0.2"), R"(home.json: dialect: must be "1.0.0" or "1.0.1")");
     EXPECT_EQ(problemWith("[]"), "home.json: objects: must be an object in braces");
     EXPECT_EQ(problemWith(R"({"wan-0": {"config": {}}})"),
-              "home.json: objects.wan-0.config: is neither configuration nor status");
+              "home.json: objects.wan-0.config: is neither configuration nor status nor documents");
     EXPECT_EQ(problemWith(R"({"wan-0": {"status": {"a": {"b": true}}}})"),
               "home.json: objects.wan-0.status.a.b: must be a text in quotes");
     EXPECT_EQ(problemWith(R"({"wan-0": {"status": {"a": ["x", 1]}}})"),

@@ -50,7 +50,8 @@ struct Scenario {
     static std::optional<Scenario> load(const std::string& nameOrPath,
                                         std::string* error = nullptr);
 
-    /// Reads the text of a scenario file; `origin` is what a message calls it.
+    /// Reads the text of a scenario file; `origin` is what a message calls it. A base that it names
+    /// is looked for as `load` does.
     static std::optional<Scenario> fromJson(const std::string& json, const std::string& origin,
                                             std::string* error = nullptr);
 
