@@ -64,8 +64,8 @@ private:
 
 TEST(ScenarioTest, KnowsTheBuiltInOnes)
 {
-    EXPECT_THAT(Scenario::names(), IsSupersetOf({"classic", "modern"}));
-    for (const char* name : {"classic", "modern"}) {
+    EXPECT_THAT(Scenario::names(), IsSupersetOf({"classic", "dual", "modern"}));
+    for (const char* name : {"classic", "dual", "modern"}) {
         std::string error;
         const auto scenario = Scenario::load(name, &error);
         ASSERT_TRUE(scenario) << error;

@@ -110,13 +110,14 @@ const ObjectKind& kindOf(const std::string& instance)
 {
     static const ObjectKind plain;
     static const std::unordered_map<std::string, const ObjectKind*> kinds{
-        {"cfgmgr", &configManager()},  {"devmgr", &deviceManager()},
-        {"dhcpc", &dhcpClient()},      {"dhcps", &dhcpServer()},
-        {"pppox", &pppClient()},       {"route", &route()},
-        {"serial", &settingsObject()}, {"static", &settingsObject()},
-        {"sysmgr", &systemManager()},  {"wan", &wan()},
-        {"usbhost_mngr", &usbHost()},  {"voice", &voice()},
-        {"webui", &webInterface()},
+        {"cfgmgr", &configManager()},    {"devmgr", &deviceManager()},
+        {"dhcpc", &dhcpClient()},        {"dhcps", &dhcpServer()},
+        {"pppox", &pppClient()},         {"route", &route()},
+        {"serial", &settingsObject()},   {"static", &settingsObject()},
+        {"sysmgr", &systemManager()},    {"wan", &wan()},
+        {"usbhost_mngr", &usbHost()},    {"voice", &voice()},
+        {"webui", &webInterface()},      {"wireless", &newerRadio()},
+        {"wireless_ap", &accessPoint()}, {"wireless_core", &olderRadio()},
     };
     const auto kind = kinds.find(managerOf(instance));
     return kind == kinds.end() ? plain : *kind->second;

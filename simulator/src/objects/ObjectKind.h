@@ -57,10 +57,13 @@ const ObjectKind& kindOf(const std::string& instance);
 
 /// @name The managers with a behaviour of their own
 /// @{
+const ObjectKind& accessPoint();
 const ObjectKind& configManager();
 const ObjectKind& deviceManager();
 const ObjectKind& dhcpClient();
 const ObjectKind& dhcpServer();
+const ObjectKind& newerRadio();
+const ObjectKind& olderRadio();
 const ObjectKind& pppClient();
 const ObjectKind& route();
 const ObjectKind& settingsObject();
