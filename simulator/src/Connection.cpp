@@ -147,7 +147,7 @@ void Connection::finish()
         phase = Phase::Holding;
     else if (script.end == Script::End::Reset)
         socket.reset();
-    else if (script.end == Script::End::Close || script.goesDown)
+    else if (script.end == Script::End::Close || script.down)
         socket.close();
 }
 

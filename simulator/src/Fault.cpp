@@ -42,6 +42,7 @@ constexpr std::array kinds{
     KindRow{FaultKind::TooDeep, "too-deep", 257, 2, 1000000},
     KindRow{FaultKind::CommandFails, "command-fails", 1, 1, INT_MAX},
     KindRow{FaultKind::PowerCut, "power-cut", 1, 1, INT_MAX},
+    KindRow{FaultKind::RadioRestart, "radio-restart", 0, 0, 3600000},
 };
 
 const KindRow& rowOf(FaultKind kind)

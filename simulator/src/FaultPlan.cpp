@@ -1,5 +1,8 @@
 #include "FaultPlan.h"
 
+#include "State.h"
+#include "WebApp.h"
+
 #include <algorithm>
 
 namespace quorvel::simulator
@@ -18,14 +21,30 @@ int commandNumber(const std::string& body)
     return number;
 }
 
+// Whoever reaches the gateway through a radio loses it while that starts anew.
+bool appliesRadio(const std::string& body)
+{
+    Request request;
+    return readRequest(body, request) == ErrorCode::None &&
+           std::any_of(request.commands.begin(), request.commands.end(), [](const auto& command) {
+               const std::string manager = managerOf(command.instance);
+               return command.verb == "command" && command.key == "apply" &&
+                      (manager == "wireless" || manager == "wireless_ap" ||
+                       manager == "wireless_core");
+           });
+}
+
 bool fits(const Fault& fault, FaultTarget target, const std::string& body)
 {
     const bool atCommand =
         fault.kind == FaultKind::CommandFails || fault.kind == FaultKind::PowerCut;
-    const bool webAppOnly =
-        atCommand || fault.kind == FaultKind::ErrorCode || fault.kind == FaultKind::SessionExpired;
+    const bool webAppOnly = atCommand || fault.kind == FaultKind::ErrorCode ||
+                            fault.kind == FaultKind::SessionExpired ||
+                            fault.kind == FaultKind::RadioRestart;
     const FaultTarget wanted = webAppOnly ? FaultTarget::WebApp : fault.target;
     if (fault.kind == FaultKind::Refuse || (atCommand && commandNumber(body) < argumentOf(fault)))
+        return false;
+    if (fault.kind == FaultKind::RadioRestart && !appliesRadio(body))
         return false;
     return (wanted == FaultTarget::Any || wanted == target) &&
            (fault.key.empty() || body.find("<key>" + fault.key + "</key>") != std::string::npos);

@@ -81,7 +81,7 @@ Script Gateway::serve(const HttpRequest& request, FaultTarget target,
         sessions.endAll();
         Script script;
         script.end = Script::End::Reset;
-        script.goesDown = true;
+        script.down = downTime;
         return script;
     }
     const State stateBefore = current;
@@ -94,7 +94,8 @@ Script Gateway::serve(const HttpRequest& request, FaultTarget target,
     }
     Script script = fault ? spoiltScript(request, served.reply, *fault, scenario.dialect)
                           : scriptOf(request, served.reply);
-    script.goesDown = served.goesDown;
+    if (served.goesDown)
+        script.down = downTime;
     return script;
 }
 

@@ -141,6 +141,10 @@ Script spoiltScript(const HttpRequest& request, const HttpReply& reply, const Fa
         return sent(reply, reply.body, size + argumentOf(fault), Script::End::Close);
     case FaultKind::Reset:
         return cut(script, fault);
+    case FaultKind::RadioRestart:
+        script = ending(Script::End::Close);
+        script.down = std::chrono::milliseconds(argumentOf(fault));
+        return script;
     case FaultKind::Delay:
         script.delay = std::chrono::milliseconds(argumentOf(fault));
         return script;

@@ -4,6 +4,7 @@
 #include "Http.h"
 
 #include <chrono>
+#include <optional>
 #include <string>
 
 namespace quorvel::simulator
@@ -25,8 +26,8 @@ struct Script {
     /// Between two bytes; zero sends everything at once.
     std::chrono::milliseconds pace{0};
     End end = End::KeepOpen;
-    /// The gateway goes down as soon as the bytes are on their way.
-    bool goesDown = false;
+    /// How long the gateway goes down as soon as the bytes are on their way.
+    std::optional<std::chrono::milliseconds> down = std::nullopt;
     /// Where in `bytes` the head ends, for the record.
     std::size_t headSize = 0;
 };

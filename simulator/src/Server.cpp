@@ -49,7 +49,7 @@ void Server::refresh()
 void Server::goDown()
 {
     const std::lock_guard only(control);
-    inThread([this] { closeForRestart(nullptr); });
+    inThread([this] { closeFor(gateway.rebootTime(), nullptr); });
 }
 
 std::string Server::address() const
@@ -124,9 +124,8 @@ void Server::runTasks()
         task();
 }
 
-void Server::closeForRestart(const Connection* survivor)
+void Server::closeFor(std::chrono::milliseconds time, const Connection* survivor)
 {
-    const auto time = gateway.rebootTime();
     if (time.count() <= 0)
         return;
     downUntil = Clock::now() + time;
@@ -192,8 +191,8 @@ void Server::serveAll(const std::vector<short>& ready)
         connection.proceed(events, [this, &connection](const HttpRequest& request) {
             Script script = gateway.answer(request);
             // The port closes before the reply is out: whoever has the reply finds it closed.
-            if (script.goesDown)
-                closeForRestart(&connection);
+            if (script.down)
+                closeFor(*script.down, &connection);
             return script;
         });
     }

@@ -38,7 +38,7 @@ private:
     void run();
     void inThread(const std::function<void()>& task);
     void runTasks();
-    void closeForRestart(const Connection* survivor);
+    void closeFor(std::chrono::milliseconds time, const Connection* survivor);
     void openOrClose();
     void setReachable(bool reachable);
     int timeout() const;

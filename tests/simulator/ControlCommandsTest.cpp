@@ -65,6 +65,18 @@ TEST_F(ControlCommandsTest, ValuesAreReadAndWritten)
     EXPECT_EQ(say("get eth-0 linkstate"), "ok 0\n");
 }
 
+TEST_F(ControlCommandsTest, ARadioRestartIsAFault)
+{
+    EXPECT_EQ(say("fault radio-restart 1"), "ok\n");
+    const std::string cookie = logIn();
+    RawClient client(gateway);
+    client.send(post("/cgi-bin/webapp", xml("1.0.1", {"command wireless-0 apply"}), cookie));
+    client.readReply();
+    EXPECT_EQ(client.received(), "");
+    EXPECT_EQ(client.ending(), Ending::Closed);
+    EXPECT_EQ(errorWith(cookie), 0);
+}
+
 TEST_F(ControlCommandsTest, FaultsComeAndGo)
 {
     EXPECT_EQ(say("reachable"), "ok 1\n");

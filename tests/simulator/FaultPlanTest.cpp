@@ -38,6 +38,36 @@ TEST_F(FaultPlanTest, APowerCutTakesTheWholeRequestWithIt)
     EXPECT_TRUE(isWritten());
 }
 
+TEST_F(FaultPlanTest, ARadioRestartLosesTheReplyToWritesOfRadiosOnly)
+{
+    inject("radio-restart 1");
+    EXPECT_EQ(errorOf({"get wireless-0 ap0_ssid", "set - apply", "query wireless-0 apply"}), 0);
+    EXPECT_EQ(errorIn(writeUnder("radio-restart 1")->body()), 0);
+    EXPECT_TRUE(isWritten());
+    const Lines rename{"command cfgmgr-0 begin_transaction wireless-0",
+                       "set wireless-0 ap0_ssid Attic",
+                       "command cfgmgr-0 commit wireless-0",
+                       "command cfgmgr-0 end_transaction wireless-0",
+                       "command wireless-0 apply",
+                       "command cfgmgr-0 save"};
+    EXPECT_EQ(send(rename), "");
+    EXPECT_EQ(gateway.storedValue("wireless-0", "ap0_ssid"), "Attic");
+    EXPECT_EQ(errorOf(rename), 0);
+}
+
+TEST_F(FaultPlanTest, SessionsOutlastARadioRestart)
+{
+    inject("radio-restart:50 1");
+    EXPECT_EQ(send({"command wireless-0 apply"}), "");
+    ASSERT_TRUE(gateway.waitUntilReachable(true, seconds(10)));
+    EXPECT_EQ(errorOf({"get conn-0 hostname"}), 0);
+    inject("radio-restart:3600000 1");
+    EXPECT_EQ(send({"command wireless-0 apply"}), "");
+    EXPECT_FALSE(gateway.isReachable());
+    EXPECT_EQ(RawClient(gateway.port()).ending(), Ending::Refused);
+    EXPECT_EQ(gateway.sessionNumber(), 1U);
+}
+
 TEST_F(FaultPlanTest, ASpoiltReplyCanMeanThatNothingWasDone)
 {
     const Objects before = gateway.storedObjects();

@@ -21,10 +21,11 @@ std::string problemIn(const std::string& text)
 
 TEST(FaultTextTest, EveryFaultHasAName)
 {
-    EXPECT_THAT(Fault::names(), ElementsAre("refuse", "close", "reset", "hang", "delay", "drip",
-                                            "truncate", "wrong-length", "garbage", "html", "empty",
-                                            "http", "bad-utf8", "error", "session-expired",
-                                            "oversized", "too-deep", "command-fails", "power-cut"));
+    EXPECT_THAT(Fault::names(),
+                ElementsAre("refuse", "close", "reset", "hang", "delay", "drip", "truncate",
+                            "wrong-length", "garbage", "html", "empty", "http", "bad-utf8", "error",
+                            "session-expired", "oversized", "too-deep", "command-fails",
+                            "power-cut", "radio-restart"));
     for (const std::string& name : Fault::names()) {
         const auto fault = Fault::fromText(name);
         ASSERT_TRUE(fault) << name;
@@ -67,6 +68,7 @@ TEST(FaultTextTest, BadTextsAreExplained)
     EXPECT_EQ(problemIn(" , "), "no fault is named");
     EXPECT_EQ(problemIn("explode"), "no fault is called 'explode'");
     EXPECT_EQ(problemIn("hang:3"), "'hang' takes no argument '3'");
+    EXPECT_EQ(problemIn("radio-restart:-1"), "'radio-restart' takes no argument '-1'");
     EXPECT_EQ(problemIn("drip:"), "'drip' takes no argument ''");
     EXPECT_EQ(problemIn("drip:0"), "'drip' takes no argument '0'");
     EXPECT_EQ(problemIn("http:99"), "'http' takes no argument '99'");

@@ -93,6 +93,23 @@ TEST(ProgramTest, InjectsFaultsFromTheCommandLine)
     }
 }
 
+TEST(ProgramTest, RestartsItsRadiosOnDemand)
+{
+    Program program({"--scenario", "dual", "--fault", "radio-restart:3600000,1"});
+    const int port = portBehind(program.line(), "listening on http://127.0.0.1:");
+    RawClient login(port);
+    login.send(post("/cgi-bin/login", "user=admin&password=admin"));
+    login.readReply();
+    const std::string cookie = login.header("Set-Cookie");
+    RawClient client(port);
+    client.send(post("/cgi-bin/webapp", xml("1.0.1", {"command wireless_core-0 apply"}),
+                     cookie.substr(0, cookie.find(';'))));
+    client.readReply();
+    EXPECT_EQ(client.received(), "");
+    EXPECT_EQ(client.ending(), Ending::Closed);
+    EXPECT_EQ(RawClient(port).ending(), Ending::Refused);
+}
+
 TEST(ProgramTest, AppliesLimitsFromTheCommandLine)
 {
     Program program({"--session-lifetime", "1", "--sessions", "1", "--reboot-time", "3600000"});
@@ -137,6 +154,7 @@ TEST(ProgramTest, ListsItsScenarios)
     Program program({"--list-scenarios"});
     EXPECT_EQ(program.wait(), 0);
     EXPECT_THAT(program.output(), HasSubstr("classic: An ADSL gateway of the older kind"));
+    EXPECT_THAT(program.output(), HasSubstr("\ndual: The newer kind with two radios"));
     EXPECT_THAT(program.output(), HasSubstr("\nmodern: A gateway of the newer kind"));
 }
 

@@ -56,11 +56,17 @@ enum class FaultKind {
     /// `power-cut`: the gateway loses its power while it works on one command of a request:
     /// nothing of the request happens, no reply, and the gateway starts anew. Argument: which
     /// command, counted from 1 (1). A shorter request passes unharmed.
-    PowerCut
+    PowerCut,
+    /// `radio-restart`: a request that applies a radio is carried out, but its client loses the
+    /// connection before a byte of the reply, as the radio starts anew. Argument: how many
+    /// milliseconds the port is closed then (0); sessions and settings outlast it. Other requests
+    /// pass unharmed.
+    RadioRestart
 };
 
-/// Which requests a fault may hit. The kinds `error`, `session-expired`, `command-fails` and
-/// `power-cut` hit requests to the web application only, whatever the target says.
+/// Which requests a fault may hit. The kinds `error`, `session-expired`, `command-fails`,
+/// `power-cut` and `radio-restart` hit requests to the web application only, whatever the target
+/// says.
 enum class FaultTarget { Any, Login, WebApp, Probe };
 
 /// A fault to inject, and when.
