@@ -42,7 +42,7 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Gateways, ConnectionTest, testing::Values("classic", "modern"),
+INSTANTIATE_TEST_SUITE_P(Gateways, ConnectionTest, testing::Values("classic", "dual", "modern"),
                          scenarioName);
 
 TEST_P(ConnectionTest, PppoeOverEthernetTakesThePlaceOfDhcp)

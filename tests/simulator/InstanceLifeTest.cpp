@@ -117,7 +117,8 @@ protected:
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Gateways, EntityTest, testing::Values("classic", "modern"), scenarioName);
+INSTANTIATE_TEST_SUITE_P(Gateways, EntityTest, testing::Values("classic", "dual", "modern"),
+                         scenarioName);
 
 TEST_P(EntityTest, EveryTypeIsMadeAddedAndTakenAwayAgain)
 {

@@ -1,4 +1,9 @@
+#include <quorvel/AspAdslSettingsFacade.h>
 #include <quorvel/AspCpeFacadeObject.h>
+#include <quorvel/AspGeneralSettingsFacade.h>
+#include <quorvel/AspUsbHostSettingsFacade.h>
+#include <quorvel/AspVoipSettingsFacade.h>
+#include <quorvel/AspWanSettingsFacade.h>
 
 #include "SimulatedRadios.h"
 #include "wireless/WirelessFixture.h"
@@ -67,6 +72,24 @@ TEST_F(RadiosOfDual, AreReadThroughTheHandleOfTheGateway)
     EXPECT_EQ(manager->getWirelessSettings(1, error).ssid, text("quorvel-2001"));
     EXPECT_EQ(error, 0);
     EXPECT_EQ(manager->checkWirelessStatus(1, error), AspWirelessEnabled);
+}
+
+TEST_F(RadiosOfDual, StandBesideAllOtherFamilies)
+{
+    AspCpeFacadeObject handle(
+        {text("admin"), text("admin"), QString::fromStdString(gateway.address())});
+    EXPECT_EQ(handle.getGeneralSettingsFacade()->getFirmwareVersion(error), text("3.4.1-r2"));
+    EXPECT_TRUE(handle.hasDsl() && handle.hasEth() && handle.hasPptp() && handle.hasL2tp());
+    EXPECT_TRUE(handle.has3G() && handle.hasWarrantyRegistrationSupport());
+    EXPECT_EQ(handle.getWanSettingsFacade()->getWanList(error),
+              (QList<QString>{text("wan-0"), text("wan-1"), text("wan-2")}));
+    EXPECT_EQ(handle.getAdslSettingsFacade()->getPvcSettings(text("pvc-0"), error).vci, text("35"));
+    EXPECT_EQ(handle.getVoipSettingsFacade()->getVoipAccounts(error).accounts.size(), 3);
+    bool printer = false;
+    bool disk = false;
+    handle.getUsbHostSettingsFacade()->getUsbStatus(printer, disk, error);
+    EXPECT_TRUE(printer && disk);
+    EXPECT_EQ(error, 0);
 }
 
 TEST_F(RadiosOfDual, TellTheirNetworks)
