@@ -179,6 +179,7 @@ TEST_F(RadioOfModern, TellsWhatItCanDo)
     newer->getWirelessCapabilities(error);
     EXPECT_EQ(error, 0);
     const auto capabilities = newer->getCapabilities();
+    ASSERT_TRUE(capabilities && capabilities->getBand());
     EXPECT_EQ(capabilities->getOperationModes(),
               (QVariantList{text("ap"), text("sta"), text("wds")}));
     EXPECT_EQ(capabilities->getApPrefix(), (QVariantList{text("ap0"), text("ap1")}));
@@ -197,6 +198,7 @@ TEST_F(RadioOfModern, TellsWhatItCanDo)
 TEST_F(RadioOfModern, TellsWhatItCanDoAtFiveGigahertz)
 {
     newer->getWirelessCapabilities(error);
+    ASSERT_TRUE(newer->getCapabilities() && newer->getCapabilities()->getBand());
     const auto high = newer->getCapabilities()->getBand()->getGhz5000();
     EXPECT_EQ(high->getDefaultMode(), text("11ac"));
     EXPECT_EQ(namesIn(high->getChannels()),
