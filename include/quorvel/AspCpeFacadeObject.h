@@ -7,6 +7,7 @@
 
 #include <QString>
 #include <boost/shared_ptr.hpp>
+#include <functional>
 
 namespace quorvel
 {
@@ -123,6 +124,19 @@ public:
     boost::shared_ptr<AspUsbHostSettingsFacade> getUsbHostSettingsFacade(int* result);
     /// The same without telling why it is empty.
     boost::shared_ptr<AspUsbHostSettingsFacade> getUsbHostSettingsFacade();
+
+    /// A handle on the same gateway whose facades change nothing: each of their requests is given
+    /// to `take`, as it would go to the web application, and counts as done, with a reply that
+    /// holds neither a value nor an error. So a setter's requests tell what it would do. Getters
+    /// give their defaults, and where a second request builds on the reply to a first, it is built
+    /// on nothing.
+    ///
+    /// Recognises this object's gateway first if that is still due, as the facade getters do. Empty
+    /// if that fails. Only logins of the new handle reach the gateway: the operations here that log
+    /// in, and a request without a stored session. `take` runs on the thread of the operation and
+    /// must not call into the family that it is called from. The requests hold secrets in clear.
+    boost::shared_ptr<AspCpeFacadeObject> rehearse(
+        std::function<void(const QString& request)> take);
 
     /// Ends the waits of all requests that are under way on this gateway, through whichever facade
     /// or thread, newer radios excepted; they fail with AspWebAppRequestFailed within 100 ms, or if

@@ -13,16 +13,22 @@ boost::shared_ptr<Cpe> CpeBuilderDirector::buildCpe(boost::shared_ptr<CpeBuilder
     AspCpeRecognizer recognizer;
     if (!recognizer.recognize(info, parameters))
         return boost::shared_ptr<Cpe>();
+    return assemble(*builder, parameters, info);
+}
+
+boost::shared_ptr<Cpe> CpeBuilderDirector::assemble(CpeBuilder& builder, const ParamMap& parameters,
+                                                    const AuthenticationInfo& info)
+{
     logDebug(QStringLiteral("Building CPE..."));
-    const bool built = builder->buildCpe(parameters) && builder->buildSettingsImplementors() &&
-                       builder->buildRequestExecutor() && builder->buildRequestFormatter() &&
-                       builder->buildResponseParser() && builder->buildAuthenticator(info);
+    const bool built = builder.buildCpe(parameters) && builder.buildSettingsImplementors() &&
+                       builder.buildRequestExecutor() && builder.buildRequestFormatter() &&
+                       builder.buildResponseParser() && builder.buildAuthenticator(info);
     if (!built) {
         logError(QStringLiteral("Failed to build CPE!"));
         return boost::shared_ptr<Cpe>();
     }
     logDebug(QStringLiteral("CPE is built."));
-    return builder->getCpe();
+    return builder.getCpe();
 }
 
 } // namespace quorvel

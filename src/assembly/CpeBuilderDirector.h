@@ -16,6 +16,10 @@ public:
     virtual boost::shared_ptr<Cpe> buildCpe(boost::shared_ptr<CpeBuilder> builder,
                                             const AuthenticationInfo& info);
 
+    /// The builder's steps alone, for a gateway that is recognised already. Null on any failure.
+    static boost::shared_ptr<Cpe> assemble(CpeBuilder& builder, const ParamMap& parameters,
+                                           const AuthenticationInfo& info);
+
 private:
     Q_DISABLE_COPY(CpeBuilderDirector)
 };

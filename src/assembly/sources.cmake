@@ -4,4 +4,5 @@ target_sources(QuorvelApi1Objects PRIVATE
     assembly/CpeBuilder.cpp
     assembly/CpeBuilderDirector.cpp
     assembly/CpeBuilderFactory.cpp
+    assembly/RehearsalBuilder.cpp
     assembly/TelvoraCpeBuilderAspV1.cpp)

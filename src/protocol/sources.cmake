@@ -17,6 +17,7 @@ target_sources(QuorvelApi1Objects PRIVATE
     protocol/HttpRequestExecutor.cpp
     protocol/Log.cpp
     protocol/NetworkExchange.cpp
+    protocol/RehearsalExecutor.cpp
     protocol/RequestFormatter.cpp)
 
 # Reading through a guarded reader of our own is what Qt calls deprecated; its other ways to read a
