@@ -89,7 +89,7 @@ void SecretSource::addTo(CLI::App& command, const std::string& optionName,
 
 bool SecretSource::isGiven() const
 {
-    return !file.empty() || fromStdin || qEnvironmentVariableIsSet(variable.c_str());
+    return isGivenByOption() || qEnvironmentVariableIsSet(variable.c_str());
 }
 
 QString SecretSource::read() const
@@ -113,10 +113,11 @@ QString hiddenSecret()
 
 QString withoutSecrets(const QString& line)
 {
+    // To the next label or the end: a secret may hold tabs and line breaks itself.
     static const QRegularExpression secret(
-        QStringLiteral(
-            "((?:password:|SESSION: |Session ID: |session storage\\.\\.\\.)\\s*)[^\\t\\n]+"),
-        QRegularExpression::CaseInsensitiveOption);
+        QStringLiteral("((?:password:|SESSION: |Session ID: |session storage\\.\\.\\.) *)"
+                       "(?!\\t[\\w ]+:).+?(?=\\t[\\w ]+:|$)"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
     return QString(line).replace(secret, QStringLiteral("\\1") + hiddenSecret());
 }
 

@@ -17,6 +17,8 @@ public:
                const std::string& meaning);
 
     bool isGiven() const;
+    /// Whether an option gives it, so that it is meant for this very run.
+    bool isGivenByOption() const { return !file.empty() || fromStdin; }
 
     /// The secret: the first line of the file, else the next line of standard input, else the
     /// variable. Fails as wrong usage if none of them is given, or the file can't be read.
