@@ -13,7 +13,8 @@ void start(QProcess& process, const std::string& arguments, const Surroundings& 
     const auto set = [&](const char* name, const std::string& value) {
         environment.insert(QLatin1String(name), QString::fromStdString(value));
     };
-    for (const char* name : {"ADDRESS", "USER", "PASSWORD", "CANDIDATE", "NEW_PASSWORD"})
+    for (const char* name : {"ADDRESS", "USER", "PASSWORD", "CANDIDATE", "NEW_PASSWORD",
+                             "PPPOX_PASSWORD", "VPN_PASSWORD", "L2TP_PASSWORD", "PIN", "PUK"})
         environment.remove(QLatin1String("QUORVELCTL_") + QLatin1String(name));
     if (!surroundings.address.empty())
         set("QUORVELCTL_ADDRESS", surroundings.address);
@@ -44,6 +45,23 @@ QuorvelctlTest::QuorvelctlTest(const std::string& scenario) : simulator(*Scenari
     std::string error;
     if (!simulator.start(&error))
         ADD_FAILURE() << error;
+}
+
+void QuorvelctlTest::expectOutput(const std::string& arguments, const std::string& output) const
+{
+    const Outcome result = run(arguments);
+    EXPECT_EQ(result.output, output) << arguments;
+    EXPECT_EQ(result.errors, "") << arguments;
+    EXPECT_EQ(result.status, 0) << arguments;
+}
+
+void QuorvelctlTest::expectComplaint(const std::string& arguments, int status,
+                                     const std::string& complaint) const
+{
+    const Outcome result = run(arguments);
+    EXPECT_EQ(result.errors, "quorvelctl: " + complaint + "\n") << arguments;
+    EXPECT_EQ(result.output, "") << arguments;
+    EXPECT_EQ(result.status, status) << arguments;
 }
 
 Outcome QuorvelctlTest::run(const std::string& arguments, const std::string& input) const

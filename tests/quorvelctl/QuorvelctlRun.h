@@ -41,6 +41,11 @@ protected:
 
     /// Runs it with the gateway's address and password.
     Outcome run(const std::string& arguments, const std::string& input = std::string()) const;
+    /// Runs it, which is to succeed and print exactly this.
+    void expectOutput(const std::string& arguments, const std::string& output) const;
+    /// Runs it, which is to fail with this one line behind "quorvelctl: ".
+    void expectComplaint(const std::string& arguments, int status,
+                         const std::string& complaint) const;
     /// Lets the gateway spoil requests, as Fault::fromText describes it.
     void spoil(const std::string& fault);
 

@@ -5,6 +5,7 @@
 #include <quorvel/QuorvelApi1.h>
 
 #include <QString>
+#include <QStringList>
 #include <boost/shared_ptr.hpp>
 
 namespace quorvelctl
@@ -31,6 +32,16 @@ public:
         if (watch.sawError())
             refuse(what);
         return result;
+    }
+
+    /// The same for a call that lists names, without what is none: a "0" is the trace of a session
+    /// that had to be renewed meanwhile.
+    template <typename Call>
+    QStringList askNames(const QString& what, Call call)
+    {
+        QStringList names = ask(what, call);
+        names.removeAll(QStringLiteral("0"));
+        return names;
     }
 
     /// The same for a call that may log an error line although what was asked for is done: its

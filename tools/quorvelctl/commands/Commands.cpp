@@ -8,6 +8,9 @@ void addCommands(CLI::App& app, Session& session)
     addIdentityCommands(app, session);
     addPasswordCommands(app, session);
     addWarrantyCommands(app, session);
+    addInternetCommands(app, session);
+    addWanCommands(app, session);
+    addModemCommands(app, session);
     addRestartCommands(app, session);
 }
 

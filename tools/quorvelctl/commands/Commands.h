@@ -13,8 +13,11 @@ void addCommands(CLI::App& app, Session& session);
 /// @name A group each, in a file of its own
 /// @{
 void addIdentityCommands(CLI::App& app, Session& session);
+void addInternetCommands(CLI::App& app, Session& session);
+void addModemCommands(CLI::App& app, Session& session);
 void addPasswordCommands(CLI::App& app, Session& session);
 void addRestartCommands(CLI::App& app, Session& session);
+void addWanCommands(CLI::App& app, Session& session);
 void addWarrantyCommands(CLI::App& app, Session& session);
 /// @}
 

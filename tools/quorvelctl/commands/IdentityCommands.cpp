@@ -1,5 +1,6 @@
 #include "Failure.h"
 #include "Session.h"
+#include "Words.h"
 #include "commands/Commands.h"
 
 using namespace quorvel;
@@ -9,16 +10,6 @@ namespace quorvelctl
 
 namespace
 {
-
-QString word(const char* text)
-{
-    return QString::fromLatin1(text);
-}
-
-Field field(const char* key, const char* heading, const QJsonValue& value)
-{
-    return {word(key), word(heading), value};
-}
 
 QString routerModeName(TelvoraCpeRouterMode mode)
 {
@@ -135,15 +126,12 @@ void clients(Session& session)
 void managers(Session& session)
 {
     Gateway& gateway = session.gateway();
-    const auto names = gateway.ask(word("list the managers"), [&](AspWebAppErrorCodes& error) {
+    const auto names = gateway.askNames(word("list the managers"), [&](AspWebAppErrorCodes& error) {
         return gateway.general().getManagerList(error);
     });
     QList<Record> records;
-    for (const QString& name : names) {
-        // Not a manager, but the trace of a session that had to be renewed meanwhile.
-        if (name != QLatin1String("0"))
-            records.append({field("manager", "Manager", name)});
-    }
+    for (const QString& name : names)
+        records.append({field("manager", "Manager", name)});
     session.output().print(records, word("No managers."));
 }
 
