@@ -8,6 +8,8 @@ void addCommands(CLI::App& app, Session& session)
     addIdentityCommands(app, session);
     addPasswordCommands(app, session);
     addWarrantyCommands(app, session);
+    addPhoneCommands(app, session);
+    addUsbCommands(app, session);
     addRestartCommands(app, session);
 }
 

@@ -14,7 +14,9 @@ void addCommands(CLI::App& app, Session& session);
 /// @{
 void addIdentityCommands(CLI::App& app, Session& session);
 void addPasswordCommands(CLI::App& app, Session& session);
+void addPhoneCommands(CLI::App& app, Session& session);
 void addRestartCommands(CLI::App& app, Session& session);
+void addUsbCommands(CLI::App& app, Session& session);
 void addWarrantyCommands(CLI::App& app, Session& session);
 /// @}
 
