@@ -9,9 +9,15 @@
 #include <QList>
 #include <QString>
 #include <cstdint>
+#include <functional>
 
 namespace quorvel
 {
+
+/// Told how far the reading of a call log is: `page` of `pages` has been asked for, from 1, and
+/// `error` is what the reading would report if it ended there.
+using AspVoipCallHistoryProgress =
+    std::function<void(int page, int pages, AspWebAppErrorCodes error)>;
 
 /// Telephony of a gateway: the accounts of its lines, their gains and the call log.
 ///
@@ -66,6 +72,12 @@ public:
     /// most. Aborting pending requests ends one page only.
     QList<AspVoipCallHistory> getVoipCallHistory(AspVoipCallHistoryFilter filter,
                                                  AspWebAppErrorCodes& error);
+    /// The same, and calls `progress` after each page, on the calling thread, between two
+    /// exchanges: so a host can show how far it is, and knows of pages that are left out. An empty
+    /// `progress` is not called; what it throws ends the reading.
+    QList<AspVoipCallHistory> followVoipCallHistory(AspVoipCallHistoryFilter filter,
+                                                    const AspVoipCallHistoryProgress& progress,
+                                                    AspWebAppErrorCodes& error);
 
 private:
     void getGainValues();

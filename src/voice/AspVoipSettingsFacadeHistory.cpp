@@ -91,6 +91,13 @@ void dropCalls(ParamMap& reply)
 QList<AspVoipCallHistory> AspVoipSettingsFacade::getVoipCallHistory(AspVoipCallHistoryFilter filter,
                                                                     AspWebAppErrorCodes& error)
 {
+    return followVoipCallHistory(filter, nullptr, error);
+}
+
+QList<AspVoipCallHistory> AspVoipSettingsFacade::followVoipCallHistory(
+    AspVoipCallHistoryFilter filter, const AspVoipCallHistoryProgress& progress,
+    AspWebAppErrorCodes& error)
+{
     QList<AspVoipCallHistory> calls;
     FacadeCall call(*this, error);
     if (!call.isPermitted())
@@ -98,13 +105,17 @@ QList<AspVoipCallHistory> AspVoipSettingsFacade::getVoipCallHistory(AspVoipCallH
     if (call.ask(&Cpe::getVoipImplementor, &V::getCallEntriesCount, QString::number(filter.line),
                  wire::voice0)) {
         const int count = claimedCalls(call.reply());
+        const int lastPage = count / callsPerPage;
         filter.pageSize = callsPerPage;
-        for (int page = 0; page <= count / callsPerPage; ++page) {
+        for (int page = 0; page <= lastPage; ++page) {
             filter.firstEntry = page * callsPerPage;
             filter.lastEntry = qMin(filter.firstEntry + callsPerPage - 1, count);
             dropCalls(call.reply());
             if (call.ask(&Cpe::getVoipImplementor, &V::getVoipCallHistory, filter, wire::voice0))
                 appendCalls(calls, filter, call.reply());
+            call.reportError();
+            if (progress)
+                progress(page + 1, lastPage + 1, error);
         }
     }
     call.reportError();

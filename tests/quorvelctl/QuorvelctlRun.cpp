@@ -14,8 +14,10 @@ void start(QProcess& process, const std::string& arguments, const Surroundings& 
         environment.insert(QLatin1String(name), QString::fromStdString(value));
     };
     for (const char* name : {"ADDRESS", "USER", "PASSWORD", "CANDIDATE", "NEW_PASSWORD",
-                             "PPPOX_PASSWORD", "VPN_PASSWORD", "L2TP_PASSWORD", "PIN", "PUK"})
+                             "PPPOX_PASSWORD", "VPN_PASSWORD", "L2TP_PASSWORD", "PIN", "PUK",
+                             "SIP_PASSWORD", "LINE_RANGE", "PORT_RANGE"})
         environment.remove(QLatin1String("QUORVELCTL_") + QLatin1String(name));
+    environment.remove(QStringLiteral("OSTRA_CONFIG_FILE"));
     if (!surroundings.address.empty())
         set("QUORVELCTL_ADDRESS", surroundings.address);
     if (!surroundings.password.empty())

@@ -102,6 +102,25 @@ TEST_F(QuorvelctlSecrets, AreShownOnDemandOnly)
     EXPECT_THAT(run("session --json --show-secrets").output, HasSubstr("\"session\": \"SID="));
 }
 
+TEST_F(QuorvelctlSecrets, OfAccountsAreShownOnDemandOnly)
+{
+    const Outcome hidden = run("phone accounts --log-level debug");
+    EXPECT_THAT(hidden.output, HasSubstr("SIP password:  ********\n"));
+    EXPECT_THAT(hidden.output + hidden.errors, Not(HasSubstr("sip-secret")));
+    EXPECT_THAT(run("phone accounts --show-secrets").output,
+                HasSubstr("SIP password:  sip-secret-1\n"));
+}
+
+TEST_F(QuorvelctlSecrets, OfAnAccountComeFromStandardInputBehindTheLoginPassword)
+{
+    const Outcome result = runWithoutPassword("phone set 0 --sip-password-stdin --password-stdin",
+                                              "admin\nnew-secret\n");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(
+        simulator.storedValue("voice-0", "VoiceService.VoiceProfile.Line[0].SIP.AuthPassword"),
+        "new-secret");
+}
+
 TEST_F(QuorvelctlSecrets, AreHiddenInTheLogToo)
 {
     const Outcome hidden = run("session --log-level debug");

@@ -117,6 +117,18 @@ TEST_F(QuorvelctlAtATerminal, ShowsABarWhileTheGatewayIsAway)
               "Takes about (ms): 20000\nAnswers again:    yes\n");
 }
 
+TEST_F(QuorvelctlAtATerminal, TellsHowFarCallsAreReadAndWipesItOut)
+{
+    terminal.start(process, "phone history --line 0 --csv", surroundings("admin"));
+    const std::string reading = "\rReading the calls of line 0: page ";
+    const std::string shown =
+        reading + "1 of 3" + reading + "2 of 3" + reading + "3 of 3\r" + std::string(40, ' ');
+    EXPECT_EQ(terminal.readUntil(shown + '\r', patience), shown + '\r');
+    ASSERT_TRUE(process.waitForFinished(100000));
+    EXPECT_EQ(process.exitCode(), 0);
+    EXPECT_EQ(process.readAllStandardOutput().count('\n'), 46);
+}
+
 TEST_F(QuorvelctlAtATerminal, DoesNotBelieveAnEndlessRestart)
 {
     simulator.setRebootTime(std::chrono::hours(1));

@@ -68,6 +68,20 @@ TEST_F(UsbHostFacade, ReadsEveryFieldOfDisksAndPrinters)
     EXPECT_TRUE(matchesGolden(text("usbhost/getUsbHostDevicesOfTheFacade"), transcript(gateway)));
 }
 
+TEST_F(UsbHostFacade, ReadsADiskBehindAPrinterUnderItsOwnNumber)
+{
+    gateway.reply(reply101({{USB, "DeviceCount", "2"},
+                            {USB, "Type0", "1"},
+                            {USB, "Name0", "Printer"},
+                            {USB, "DeviceId0", "lp"},
+                            {USB, "Type1", "0"},
+                            {USB, "Name1", "Stick"},
+                            {USB, "DeviceId1", "sda"},
+                            {USB, "Status1", "1"}}));
+    EXPECT_EQ(shown(facade.getUsbHostDevices(error)),
+              lines({"printer|Printer|||", "disk|sda|Stick||||1|", noSharing}));
+}
+
 TEST_F(UsbHostFacade, PassesTheGatewaysErrorOnBesideTheDevices)
 {
     gateway.reply(

@@ -52,6 +52,19 @@ protected:
         return names;
     }
 
+    /// What is told after each page: "page/pages error".
+    QStringList progress(int callType)
+    {
+        QStringList told;
+        facade.followVoipCallHistory(
+            {1, callType, 0, 0, 0},
+            [&](int page, int pages, AspWebAppErrorCodes sofar) {
+                told.append(text("%1/%2 %3").arg(page).arg(pages).arg(sofar));
+            },
+            error);
+        return told;
+    }
+
     void script45Calls()
     {
         gateway.reply(callerCount("45")).reply(page(0, 20)).reply(page(20, 20)).reply(page(40, 5));
@@ -211,6 +224,39 @@ TEST_F(VoiceHistory, DoesNotRepeatCallsOfThePageBeforeAShorterOne)
 {
     gateway.reply(callerCount("25")).reply(page(0, 20)).reply(page(20, 2));
     EXPECT_EQ(callers(3), callersFrom(0, 21) << QString() << QString() << QString() << QString());
+}
+
+TEST_F(VoiceHistory, TellsAfterEachPageHowFarItIs)
+{
+    script45Calls();
+    EXPECT_EQ(progress(1), lines({"1/3 0", "2/3 0", "3/3 0"}));
+    EXPECT_TRUE(matchesGolden(text("voice/getVoipCallHistoryOf45Calls"), transcript(gateway)));
+}
+
+TEST_F(VoiceHistory, TellsOfAPageThatFailsThoughALaterOneSucceeds)
+{
+    gateway.reply(callerCount("45")).reply(page(0, 20)).sendRaw(failedReply).reply(page(40, 5));
+    EXPECT_EQ(progress(3), lines({"1/3 0", "2/3 29", "3/3 0"}));
+    EXPECT_EQ(error, 0);
+}
+
+TEST_F(VoiceHistory, TellsOfAPageThatTheGatewayRefuses)
+{
+    gateway.reply(callerCount("25")).reply(page(0, 0, "7")).reply(page(20, 5));
+    EXPECT_EQ(progress(3), lines({"1/2 7", "2/2 0"}));
+}
+
+TEST_F(VoiceHistory, TellsNothingIfTheNumberOfCallsCannotBeRead)
+{
+    gateway.sendRaw(failedReply);
+    EXPECT_EQ(progress(3), QStringList());
+    EXPECT_EQ(error, 29);
+}
+
+TEST_F(VoiceHistory, GoesOnWithoutAnybodyToTell)
+{
+    script45Calls();
+    EXPECT_EQ(facade.followVoipCallHistory({1, 1, 0, 0, 0}, nullptr, error).size(), 15);
 }
 
 TEST_F(VoiceHistory, AsksForNoPageIfTheNumberOfCallsCannotBeRead)

@@ -43,15 +43,18 @@ void Options::addTo(CLI::App& app)
     app.add_option("-a,--address", givenAddress,
                    "Address of the gateway, with or without a port; without it the default gateway "
                    "of this machine")
+        ->type_name("ADDRESS")
         ->transform(CLI::Validator(normalizeAddress, std::string()))
         ->envname("QUORVELCTL_ADDRESS");
     app.add_option("-u,--user", userName, "Login name")
+        ->type_name("NAME")
         ->envname("QUORVELCTL_USER")
         ->capture_default_str();
     passwordSource.addTo(app, "password", "QUORVELCTL_PASSWORD", "login password");
     app.add_flag("--json", json, "Print JSON instead of tables");
     app.add_flag("--show-secrets", showSecrets, "Print passwords, keys and cookies in clear");
     app.add_option("--log-level", levelName, "Show the library's lines from this level on")
+        ->type_name("LEVEL")
         ->check(CLI::IsMember({"debug", "info", "warn", "error", "off"}))
         ->capture_default_str();
 }

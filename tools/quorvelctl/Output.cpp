@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <QStringList>
 #include <QVector>
+#include <algorithm>
 #include <iostream>
 
 namespace quorvelctl
@@ -43,6 +44,18 @@ void writeJson(const QJsonDocument& document)
     std::cout << text.toStdString();
 }
 
+/// Quoted only where the text would be torn apart otherwise.
+QString csvCell(QString text)
+{
+    const QString parting = QStringLiteral("\",\r\n");
+    const bool isPlain = std::none_of(text.cbegin(), text.cend(),
+                                      [&](QChar character) { return parting.contains(character); });
+    if (isPlain)
+        return text;
+    const QLatin1Char quote('"');
+    return quote + text.replace(quote, QLatin1String("\"\"")) + quote;
+}
+
 QStringList headingsOf(const Record& record)
 {
     QStringList headings;
@@ -62,6 +75,11 @@ QString printable(const QString& text, const QString& harmless)
         clean += acts ? QChar(0xfffd) : character;
     }
     return clean;
+}
+
+Field plainField(const char* key, const char* heading, const QJsonValue& value)
+{
+    return {QString::fromLatin1(key), QString::fromLatin1(heading), value};
 }
 
 Field secretField(const QString& key, const QString& heading, const QString& value)
@@ -99,6 +117,14 @@ QJsonObject Output::toJson(const Record& record) const
     return object;
 }
 
+QJsonArray Output::toJson(const QList<Record>& records) const
+{
+    QJsonArray objects;
+    for (const Record& record : records)
+        objects.append(toJson(record));
+    return objects;
+}
+
 void Output::print(const Record& record) const
 {
     if (json) {
@@ -115,10 +141,7 @@ void Output::print(const Record& record) const
 void Output::print(const QList<Record>& records, const QString& none) const
 {
     if (json) {
-        QJsonArray objects;
-        for (const Record& record : records)
-            objects.append(toJson(record));
-        writeJson(QJsonDocument(objects));
+        writeJson(QJsonDocument(toJson(records)));
         return;
     }
     if (records.isEmpty()) {
@@ -139,6 +162,52 @@ void Output::print(const QList<Record>& records, const QString& none) const
     }
     for (const QStringList& cells : qAsConst(rows))
         writeRow(cells, widths);
+}
+
+void Output::printTables(const QList<Table>& tables) const
+{
+    QJsonObject object;
+    for (const Table& table : tables) {
+        if (json) {
+            object.insert(table.key, toJson(table.records));
+            continue;
+        }
+        if (&table != &tables.first())
+            writeLine(QString());
+        print(table.records, table.none);
+    }
+    if (json)
+        writeJson(QJsonDocument(object));
+}
+
+void Output::print(const Record& whole, const QString& partsKey, const QList<Record>& parts,
+                   const QString& none) const
+{
+    if (json) {
+        print(whole + Record{{partsKey, QString(), toJson(parts)}});
+        return;
+    }
+    print(whole);
+    for (const Record& part : parts) {
+        writeLine(QString());
+        print(part);
+    }
+    if (parts.isEmpty())
+        writeLine(none);
+}
+
+void Output::printCsv(const Record& example, const QList<Record>& records) const
+{
+    QStringList cells;
+    for (const Field& field : example)
+        cells.append(csvCell(field.key));
+    std::cout << cells.join(QLatin1Char(',')).toStdString() << '\n';
+    for (const Record& record : records) {
+        cells.clear();
+        for (const Field& field : record)
+            cells.append(csvCell(textOf(field)));
+        std::cout << cells.join(QLatin1Char(',')).toStdString() << '\n';
+    }
 }
 
 void Output::printDone(const QString& sentence) const

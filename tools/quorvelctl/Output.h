@@ -20,6 +20,16 @@ struct Field {
 /// What is shown of one thing, in order.
 using Record = QList<Field>;
 
+/// Things of one kind; `none` is what people read if there are none.
+struct Table {
+    QString key;
+    QList<Record> records;
+    QString none;
+};
+
+/// A value that is shown as it is.
+Field plainField(const char* key, const char* heading, const QJsonValue& value);
+
 /// Marks a value that is shown only on demand.
 Field secretField(const QString& key, const QString& heading, const QString& value);
 
@@ -38,6 +48,14 @@ public:
     /// Things of one kind: a table, or an array of objects. `none` is what people read if there
     /// are none.
     void print(const QList<Record>& records, const QString& none) const;
+    /// Things of several kinds: a table each, or an object of their arrays.
+    void printTables(const QList<Table>& tables) const;
+    /// A thing and its parts, which JSON has under a key: a line per value, and after an empty line
+    /// those of each part.
+    void print(const Record& whole, const QString& partsKey, const QList<Record>& parts,
+               const QString& none) const;
+    /// Things of one kind as CSV, under the keys of `example`.
+    void printCsv(const Record& example, const QList<Record>& records) const;
     /// What a command did: a sentence, or an object with "done".
     void printDone(const QString& sentence) const;
 
@@ -45,6 +63,7 @@ public:
     QJsonObject toJson(const Record& record) const;
 
 private:
+    QJsonArray toJson(const QList<Record>& records) const;
     QJsonValue shown(const Field& field) const;
     QString textOf(const Field& field) const;
 

@@ -76,8 +76,10 @@ void SecretSource::addTo(CLI::App& command, const std::string& optionName,
     name = optionName;
     variable = environmentVariable;
     meaning = whatItIs;
-    auto* path = command.add_option("--" + name + "-file", file,
-                                    "Read the " + meaning + " from the first line of this file");
+    auto* path = command
+                     .add_option("--" + name + "-file", file,
+                                 "Read the " + meaning + " from the first line of this file")
+                     ->type_name("FILE");
     command
         .add_flag("--" + name + "-stdin", fromStdin,
                   "Read the " + meaning +

@@ -11,6 +11,8 @@ void addCommands(CLI::App& app, Session& session)
     addInternetCommands(app, session);
     addWanCommands(app, session);
     addModemCommands(app, session);
+    addPhoneCommands(app, session);
+    addUsbCommands(app, session);
     addRestartCommands(app, session);
 }
 

@@ -16,7 +16,9 @@ void addIdentityCommands(CLI::App& app, Session& session);
 void addInternetCommands(CLI::App& app, Session& session);
 void addModemCommands(CLI::App& app, Session& session);
 void addPasswordCommands(CLI::App& app, Session& session);
+void addPhoneCommands(CLI::App& app, Session& session);
 void addRestartCommands(CLI::App& app, Session& session);
+void addUsbCommands(CLI::App& app, Session& session);
 void addWanCommands(CLI::App& app, Session& session);
 void addWarrantyCommands(CLI::App& app, Session& session);
 /// @}

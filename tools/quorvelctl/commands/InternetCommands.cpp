@@ -72,7 +72,6 @@ void show(Session& session, const QString& given, bool all)
 void addInternetCommands(CLI::App& app, Session& session)
 {
     auto* group = app.add_subcommand("internet", "Show or write an internet connection");
-    group->require_subcommand(1);
     auto* command = group->add_subcommand("show", "Show the internet connection of a WAN");
     const auto wan = std::make_shared<std::string>();
     const auto all = std::make_shared<bool>(false);

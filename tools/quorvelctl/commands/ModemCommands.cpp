@@ -191,7 +191,6 @@ void set(Session& session, const Given& given)
 void addModemCommands(CLI::App& app, Session& session)
 {
     auto* group = app.add_subcommand("modem", "Show or set the 3G modem");
-    group->require_subcommand(1);
     const struct {
         const char* name;
         const char* help;

@@ -40,7 +40,6 @@ void set(Session& session, const SecretSource& source)
 void addPasswordCommands(CLI::App& app, Session& session)
 {
     auto* group = app.add_subcommand("password", "Check or change the administrator password");
-    group->require_subcommand(1);
     const struct {
         const char* name;
         const char* help;

@@ -133,7 +133,6 @@ void addReading(CLI::App& group, Session& session)
 void addWanCommands(CLI::App& app, Session& session)
 {
     auto* group = app.add_subcommand("wan", "Show or change the gateway's WANs");
-    group->require_subcommand(1);
     addReading(*group, session);
     addWanChanges(*group, session);
 }

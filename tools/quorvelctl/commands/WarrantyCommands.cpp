@@ -64,7 +64,6 @@ void set(Session& session, const std::map<std::string, std::string>& given)
 void addWarrantyCommands(CLI::App& app, Session& session)
 {
     auto* group = app.add_subcommand("warranty", "Show or change the gateway's warranty record");
-    group->require_subcommand(1);
     group->add_subcommand("show", "Show the warranty record")->callback([&session] {
         show(session);
     });
