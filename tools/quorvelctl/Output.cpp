@@ -64,6 +64,11 @@ QString printable(const QString& text, const QString& harmless)
     return clean;
 }
 
+Field plainField(const char* key, const char* heading, const QJsonValue& value)
+{
+    return {QString::fromLatin1(key), QString::fromLatin1(heading), value};
+}
+
 Field secretField(const QString& key, const QString& heading, const QString& value)
 {
     return {key, heading, value, true};
@@ -99,6 +104,14 @@ QJsonObject Output::toJson(const Record& record) const
     return object;
 }
 
+QJsonArray Output::toJson(const QList<Record>& records) const
+{
+    QJsonArray objects;
+    for (const Record& record : records)
+        objects.append(toJson(record));
+    return objects;
+}
+
 void Output::print(const Record& record) const
 {
     if (json) {
@@ -115,10 +128,7 @@ void Output::print(const Record& record) const
 void Output::print(const QList<Record>& records, const QString& none) const
 {
     if (json) {
-        QJsonArray objects;
-        for (const Record& record : records)
-            objects.append(toJson(record));
-        writeJson(QJsonDocument(objects));
+        writeJson(QJsonDocument(toJson(records)));
         return;
     }
     if (records.isEmpty()) {
@@ -139,6 +149,25 @@ void Output::print(const QList<Record>& records, const QString& none) const
     }
     for (const QStringList& cells : qAsConst(rows))
         writeRow(cells, widths);
+}
+
+void Output::printEach(const QList<Record>& records) const
+{
+    if (json) {
+        writeJson(QJsonDocument(toJson(records)));
+        return;
+    }
+    for (int i = 0; i < records.size(); ++i) {
+        if (i > 0)
+            printLine();
+        print(records.at(i));
+    }
+}
+
+void Output::printLine(const QString& line) const
+{
+    if (!json)
+        writeLine(printable(line));
 }
 
 void Output::printDone(const QString& sentence) const

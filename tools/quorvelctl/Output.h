@@ -20,6 +20,9 @@ struct Field {
 /// What is shown of one thing, in order.
 using Record = QList<Field>;
 
+/// A value that is shown as it is.
+Field plainField(const char* key, const char* heading, const QJsonValue& value);
+
 /// Marks a value that is shown only on demand.
 Field secretField(const QString& key, const QString& heading, const QString& value);
 
@@ -38,6 +41,10 @@ public:
     /// Things of one kind: a table, or an array of objects. `none` is what people read if there
     /// are none.
     void print(const QList<Record>& records, const QString& none) const;
+    /// Things with too many values for a table: a block of lines for each, or an array of objects.
+    void printEach(const QList<Record>& records) const;
+    /// For people only: a line of text, or an empty one between what is printed.
+    void printLine(const QString& line = QString()) const;
     /// What a command did: a sentence, or an object with "done".
     void printDone(const QString& sentence) const;
 
@@ -45,6 +52,7 @@ public:
     QJsonObject toJson(const Record& record) const;
 
 private:
+    QJsonArray toJson(const QList<Record>& records) const;
     QJsonValue shown(const Field& field) const;
     QString textOf(const Field& field) const;
 

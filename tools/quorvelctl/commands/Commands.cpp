@@ -12,6 +12,7 @@ void addCommands(CLI::App& app, Session& session)
     addWanCommands(app, session);
     addModemCommands(app, session);
     addRestartCommands(app, session);
+    addWifiCommands(app, session);
 }
 
 } // namespace quorvelctl

@@ -19,6 +19,7 @@ void addPasswordCommands(CLI::App& app, Session& session);
 void addRestartCommands(CLI::App& app, Session& session);
 void addWanCommands(CLI::App& app, Session& session);
 void addWarrantyCommands(CLI::App& app, Session& session);
+void addWifiCommands(CLI::App& app, Session& session);
 /// @}
 
 } // namespace quorvelctl
