@@ -170,6 +170,12 @@ void Output::printLine(const QString& line) const
         writeLine(printable(line));
 }
 
+void Output::printPicture(const QString& lines) const
+{
+    if (!json)
+        std::cout << lines.toStdString();
+}
+
 void Output::printDone(const QString& sentence) const
 {
     if (json)

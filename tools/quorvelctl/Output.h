@@ -45,6 +45,8 @@ public:
     void printEach(const QList<Record>& records) const;
     /// For people only: a line of text, or an empty one between what is printed.
     void printLine(const QString& line = QString()) const;
+    /// For people only: lines that are drawn, colours included.
+    void printPicture(const QString& lines) const;
     /// What a command did: a sentence, or an object with "done".
     void printDone(const QString& sentence) const;
 

@@ -258,6 +258,7 @@ void addWifiCommands(CLI::App& app, Session& session)
     addWifiSet(*group, session);
     addWps(*group, session);
     addWifiCapabilities(*group, session);
+    addWifiQr(*group, session);
 }
 
 } // namespace quorvelctl

@@ -19,6 +19,7 @@ void excuse(const QStringList& silent, int asked, const char* question);
 /// @name The commands of the group `wifi` that have a file of their own
 /// @{
 void addWifiCapabilities(CLI::App& group, Session& session);
+void addWifiQr(CLI::App& group, Session& session);
 void addWifiSet(CLI::App& group, Session& session);
 /// @}
 
