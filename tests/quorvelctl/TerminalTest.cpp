@@ -46,6 +46,13 @@ public:
         test::start(process, arguments, surroundings);
     }
 
+    /// The same with the results on its screen.
+    void startAll(QProcess& process, const std::string& arguments, const Surroundings& surroundings)
+    {
+        process.setStandardOutputFile(name);
+        start(process, arguments, surroundings);
+    }
+
     void type(const std::string& text)
     {
         EXPECT_EQ(write(keyboard, text.data(), text.size()), static_cast<ssize_t>(text.size()));
@@ -127,6 +134,16 @@ TEST_F(QuorvelctlAtATerminal, TellsHowFarCallsAreReadAndWipesItOut)
     ASSERT_TRUE(process.waitForFinished(100000));
     EXPECT_EQ(process.exitCode(), 0);
     EXPECT_EQ(process.readAllStandardOutput().count('\n'), 46);
+}
+
+TEST_F(QuorvelctlAtATerminal, DrawsQrCodesBlackOnWhite)
+{
+    terminal.startAll(process, "wifi qr", surroundings("admin"));
+    // The first line of the margin: 33 modules, and 4 on each side of them.
+    const std::string line = "\33[38;5;16;48;5;231m" + std::string(41, ' ') + "\33[0m\r\n";
+    EXPECT_THAT(terminal.readUntil(line, patience), HasSubstr("Network: quorvel-1903\r\n" + line));
+    ASSERT_TRUE(process.waitForFinished(100000));
+    EXPECT_EQ(process.exitCode(), 0);
 }
 
 TEST_F(QuorvelctlAtATerminal, DoesNotBelieveAnEndlessRestart)

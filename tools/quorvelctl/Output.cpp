@@ -210,6 +210,31 @@ void Output::printCsv(const Record& example, const QList<Record>& records) const
     }
 }
 
+void Output::printEach(const QList<Record>& records) const
+{
+    if (json) {
+        writeJson(QJsonDocument(toJson(records)));
+        return;
+    }
+    for (int i = 0; i < records.size(); ++i) {
+        if (i > 0)
+            printLine();
+        print(records.at(i));
+    }
+}
+
+void Output::printLine(const QString& line) const
+{
+    if (!json)
+        writeLine(printable(line));
+}
+
+void Output::printPicture(const QString& lines) const
+{
+    if (!json)
+        std::cout << lines.toStdString();
+}
+
 void Output::printDone(const QString& sentence) const
 {
     if (json)

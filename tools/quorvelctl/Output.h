@@ -56,6 +56,12 @@ public:
                const QString& none) const;
     /// Things of one kind as CSV, under the keys of `example`.
     void printCsv(const Record& example, const QList<Record>& records) const;
+    /// Things with too many values for a table: a block of lines for each, or an array of objects.
+    void printEach(const QList<Record>& records) const;
+    /// For people only: a line of text, or an empty one between what is printed.
+    void printLine(const QString& line = QString()) const;
+    /// For people only: lines that are drawn, colours included.
+    void printPicture(const QString& lines) const;
     /// What a command did: a sentence, or an object with "done".
     void printDone(const QString& sentence) const;
 

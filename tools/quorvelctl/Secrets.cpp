@@ -89,6 +89,30 @@ void SecretSource::addTo(CLI::App& command, const std::string& optionName,
         ->excludes(path);
 }
 
+SecretSource SecretSource::inFile(const std::string& meaning, const std::string& path)
+{
+    SecretSource source;
+    source.meaning = meaning;
+    source.file = path;
+    return source;
+}
+
+SecretSource SecretSource::onStdin(const std::string& meaning)
+{
+    SecretSource source;
+    source.meaning = meaning;
+    source.fromStdin = true;
+    return source;
+}
+
+SecretSource SecretSource::inVariable(const std::string& meaning, const std::string& variable)
+{
+    SecretSource source;
+    source.meaning = meaning;
+    source.variable = variable;
+    return source;
+}
+
 bool SecretSource::isGiven() const
 {
     return isGivenByOption() || qEnvironmentVariableIsSet(variable.c_str());
@@ -102,6 +126,10 @@ QString SecretSource::read() const
         return nextLineOfStdin(meaning);
     if (qEnvironmentVariableIsSet(variable.c_str()))
         return qEnvironmentVariable(variable.c_str());
+    if (name.empty())
+        throw Failure{WrongUsage,
+                      QStringLiteral("no %1: there is no environment variable %2")
+                          .arg(QString::fromStdString(meaning), QString::fromStdString(variable))};
     throw Failure{WrongUsage,
                   QStringLiteral("no %1: give --%2-file, --%2-stdin or the environment variable %3")
                       .arg(QString::fromStdString(meaning), QString::fromStdString(name),

@@ -16,6 +16,13 @@ public:
     void addTo(CLI::App& command, const std::string& name, const std::string& variable,
                const std::string& meaning);
 
+    /// @name A source that another option than those two named
+    /// @{
+    static SecretSource inFile(const std::string& meaning, const std::string& path);
+    static SecretSource onStdin(const std::string& meaning);
+    static SecretSource inVariable(const std::string& meaning, const std::string& variable);
+    /// @}
+
     bool isGiven() const;
     /// Whether an option gives it, so that it is meant for this very run.
     bool isGivenByOption() const { return !file.empty() || fromStdin; }

@@ -46,12 +46,12 @@ QString Wans::defaultWan()
 
 Record stateOf(const QString& wan, const AspWanDetails& details)
 {
-    return {field("wan", "WAN", wan),
-            field("connectionType", "Layer 2", details.connectionType),
-            field("linkType", "Link type", details.linkType),
-            field("enabled", "Enabled", details.enabled),
-            field("isConnected", "Connected", details.isConnected),
-            field("localIp", "IP address", details.localIp)};
+    return {plainField("wan", "WAN", wan),
+            plainField("connectionType", "Layer 2", details.connectionType),
+            plainField("linkType", "Link type", details.linkType),
+            plainField("enabled", "Enabled", details.enabled),
+            plainField("isConnected", "Connected", details.isConnected),
+            plainField("localIp", "IP address", details.localIp)};
 }
 
 QString routeInstance()

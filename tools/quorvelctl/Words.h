@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Output.h"
+#include <QString>
 
 namespace quorvelctl
 {
@@ -9,12 +9,6 @@ namespace quorvelctl
 inline QString word(const char* text)
 {
     return QString::fromLatin1(text);
-}
-
-/// A value that is shown as it is.
-inline Field field(const char* key, const char* heading, const QJsonValue& value)
-{
-    return {word(key), word(heading), value};
 }
 
 } // namespace quorvelctl

@@ -14,6 +14,7 @@ void addCommands(CLI::App& app, Session& session)
     addPhoneCommands(app, session);
     addUsbCommands(app, session);
     addRestartCommands(app, session);
+    addWifiCommands(app, session);
 }
 
 } // namespace quorvelctl

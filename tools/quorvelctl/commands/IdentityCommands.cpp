@@ -26,18 +26,18 @@ QString routerModeName(TelvoraCpeRouterMode mode)
 /// The gateway's functions, with the version of each; empty for what it lacks.
 Record featuresOf(const AspCpeProperties& found)
 {
-    return {field("xml", "Dialect", found.xmlVersion),
-            field("general", "General settings", found.generalSettingsVersion),
-            field("adsl", "DSL", found.adslVersion),
-            field("ethernet", "Ethernet WAN", found.ethernetVersion),
-            field("wan", "WAN objects", found.wanVersion),
-            field("wireless", "Wireless", found.wirelessVersion),
-            field("voip", "Telephony", found.voipVersion),
-            field("3g", "3G modem", found.threeGVersion),
-            field("usbhost", "USB host", found.usbHostVersion),
-            field("pptp", "PPTP tunnels", found.pptpVersion),
-            field("l2tp", "L2TP tunnels", found.l2tpVersion),
-            field("warranty", "Warranty record", found.warrantyVersion)};
+    return {plainField("xml", "Dialect", found.xmlVersion),
+            plainField("general", "General settings", found.generalSettingsVersion),
+            plainField("adsl", "DSL", found.adslVersion),
+            plainField("ethernet", "Ethernet WAN", found.ethernetVersion),
+            plainField("wan", "WAN objects", found.wanVersion),
+            plainField("wireless", "Wireless", found.wirelessVersion),
+            plainField("voip", "Telephony", found.voipVersion),
+            plainField("3g", "3G modem", found.threeGVersion),
+            plainField("usbhost", "USB host", found.usbHostVersion),
+            plainField("pptp", "PPTP tunnels", found.pptpVersion),
+            plainField("l2tp", "L2TP tunnels", found.l2tpVersion),
+            plainField("warranty", "Warranty record", found.warrantyVersion)};
 }
 
 QJsonArray functionsOf(const AspCpeProperties& found)
@@ -71,20 +71,20 @@ void info(Session& session)
             return gateway.general().getDefaultGw(word("route-0"), error);
         });
     session.output().print(
-        {field("model", "Model", identity(gateway, "model name", &Facade::getModelName)),
-         field("serialNumber", "Serial number",
-               identity(gateway, "serial number", &Facade::getSerialNumber)),
-         field("firmware", "Firmware",
-               identity(gateway, "firmware version", &Facade::getFirmwareVersion)),
-         field("ethMac", "Ethernet MAC",
-               identity(gateway, "Ethernet MAC address", &Facade::getEthMacAddress)),
-         field("dslMac", "DSL MAC",
-               identity(gateway, "DSL MAC address", &Facade::getDslMacAddress)),
-         field("wlanMac", "Wireless MAC",
-               identity(gateway, "wireless MAC address", &Facade::getWlanMacAddress)),
-         field("routerMode", "Router mode", routerModeName(mode)),
-         field("defaultGateway", "Default gateway", defaultGw),
-         field("functions", "Functions", functionsOf(gateway.object().getCpeProperties()))});
+        {plainField("model", "Model", identity(gateway, "model name", &Facade::getModelName)),
+         plainField("serialNumber", "Serial number",
+                    identity(gateway, "serial number", &Facade::getSerialNumber)),
+         plainField("firmware", "Firmware",
+                    identity(gateway, "firmware version", &Facade::getFirmwareVersion)),
+         plainField("ethMac", "Ethernet MAC",
+                    identity(gateway, "Ethernet MAC address", &Facade::getEthMacAddress)),
+         plainField("dslMac", "DSL MAC",
+                    identity(gateway, "DSL MAC address", &Facade::getDslMacAddress)),
+         plainField("wlanMac", "Wireless MAC",
+                    identity(gateway, "wireless MAC address", &Facade::getWlanMacAddress)),
+         plainField("routerMode", "Router mode", routerModeName(mode)),
+         plainField("defaultGateway", "Default gateway", defaultGw),
+         plainField("functions", "Functions", functionsOf(gateway.object().getCpeProperties()))});
 }
 
 void features(Session& session)
@@ -99,7 +99,7 @@ void probe(Session& session)
     if (!available)
         throw Failure{NotReachable, QStringLiteral("%1 doesn't answer").arg(address)};
     session.output().print(
-        {field("address", "Address", address), field("available", "Answers", true)});
+        {plainField("address", "Address", address), plainField("available", "Answers", true)});
 }
 
 void clients(Session& session)
@@ -114,9 +114,9 @@ void clients(Session& session)
     QList<Record> records;
     const auto append = [&](const QList<AspDhcpsClient>& list, const char* kind) {
         for (const AspDhcpsClient& client : list)
-            records.append({field("mac", "MAC", client.mac), field("ip", "IP", client.ip),
-                            field("hostname", "Name", client.hostname),
-                            field("kind", "Address is", word(kind))});
+            records.append({plainField("mac", "MAC", client.mac), plainField("ip", "IP", client.ip),
+                            plainField("hostname", "Name", client.hostname),
+                            plainField("kind", "Address is", word(kind))});
     };
     append(reserved, "reserved");
     append(leased, "leased");
@@ -131,7 +131,7 @@ void managers(Session& session)
     });
     QList<Record> records;
     for (const QString& name : names)
-        records.append({field("manager", "Manager", name)});
+        records.append({plainField("manager", "Manager", name)});
     session.output().print(records, word("No managers."));
 }
 
@@ -143,7 +143,7 @@ void showSession(Session& session)
         return gateway.general().checkSession(id, error);
     });
     session.output().print(
-        {secretField(word("session"), word("Session"), id), field("valid", "Valid", valid)});
+        {secretField(word("session"), word("Session"), id), plainField("valid", "Valid", valid)});
 }
 
 } // namespace

@@ -112,20 +112,21 @@ void show(Session& session, const Given& given)
     Modem modem(session.gateway(), given);
     const Asp3GSettings settings = modem.read();
     session.output().print(
-        {field("wan", "WAN", modem.name()),
-         field("settingsInstance", "Settings object", modem.settingsName()),
-         field("simPinStatus", "SIM", wordFor(settings.simPinStatus, simPinWords)),
+        {plainField("wan", "WAN", modem.name()),
+         plainField("settingsInstance", "Settings object", modem.settingsName()),
+         plainField("simPinStatus", "SIM", wordFor(settings.simPinStatus, simPinWords)),
          secretField(word("pin"), word("PIN"), settings.pin),
-         secretField(word("puk"), word("PUK"), settings.puk), field("apn", "APN", settings.apn),
-         field("active", "Active", settings.active),
-         field("operatorName", "Operator", settings.operatorName),
-         field("roaming", "Roaming", settings.roaming),
-         field("connectionMode", "Technology",
-               wordFor(settings.connectionMode, connectionModeWords)),
-         field("signalStrength", "Signal strength", settings.signalStrength),
-         field("prefMode", "Preferred mode", settings.prefMode),
-         field("prefModeList", "Modes", QJsonArray::fromStringList(settings.prefModeList)),
-         field("force3g", "Held to 3G", settings.force3g), field("imei", "IMEI", settings.imei)});
+         secretField(word("puk"), word("PUK"), settings.puk),
+         plainField("apn", "APN", settings.apn), plainField("active", "Active", settings.active),
+         plainField("operatorName", "Operator", settings.operatorName),
+         plainField("roaming", "Roaming", settings.roaming),
+         plainField("connectionMode", "Technology",
+                    wordFor(settings.connectionMode, connectionModeWords)),
+         plainField("signalStrength", "Signal strength", settings.signalStrength),
+         plainField("prefMode", "Preferred mode", settings.prefMode),
+         plainField("prefModeList", "Modes", QJsonArray::fromStringList(settings.prefModeList)),
+         plainField("force3g", "Held to 3G", settings.force3g),
+         plainField("imei", "IMEI", settings.imei)});
 }
 
 /// Takes over what is given. A PIN that the SIM has refused, or an old PUK, isn't tried again with

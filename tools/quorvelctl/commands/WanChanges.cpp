@@ -64,7 +64,7 @@ void addEntity(Session& session, const QString& wan, const QString& type)
         throw Failure{GatewayFailed,
                       word("can't add a %1 entity to %2: the gateway created none").arg(type, wan)};
     session.output().print(
-        {field("wan", "WAN", wan), field("entity", "Created and added", created)});
+        {plainField("wan", "WAN", wan), plainField("entity", "Created and added", created)});
 }
 
 /// Fails if the WAN certainly has no entity of a type: the gateway would be asked to delete an

@@ -34,7 +34,7 @@ void list(Session& session)
     QList<Record> records;
     for (const QString& wan : names)
         records.append(stateOf(wan, wans.details(wan))
-                       << field("defaultGateway", "Default gateway", wan == inUse));
+                       << plainField("defaultGateway", "Default gateway", wan == inUse));
     session.output().print(records, word("No WANs."));
 }
 
@@ -46,17 +46,17 @@ void show(Session& session, const QString& wan)
     const auto listed = [](const QList<QString>& texts) {
         return QJsonArray::fromStringList(texts);
     };
-    session.output()
-        .print(stateOf(wan, details)
-               << field("dslLinkTypes", "Link types over DSL", listed(details.dslLinkTypes))
-               << field("ethLinkTypes", "Link types over Ethernet", listed(details.ethLinkTypes))
-               << field("pppoxInstance", "PPP entity", details.pppoxInstance)
-               << field("pvcInstance", "PVC entity", details.pvcInstance)
-               << field("rfc2684Instance", "RFC 2684 entity", details.rfc2684Instance)
-               << field("wanVlanInstance", "VLAN entity", details.wanVlanInstance)
-               << field("dhcpcInstance", "DHCP client entity", details.dhcpcInstance)
-               << field("staticInstance", "Static address entity", details.staticInstance)
-               << field("vpnInstances", "VPN entities", listed(details.vpnInstances)));
+    session.output().print(
+        stateOf(wan, details)
+        << plainField("dslLinkTypes", "Link types over DSL", listed(details.dslLinkTypes))
+        << plainField("ethLinkTypes", "Link types over Ethernet", listed(details.ethLinkTypes))
+        << plainField("pppoxInstance", "PPP entity", details.pppoxInstance)
+        << plainField("pvcInstance", "PVC entity", details.pvcInstance)
+        << plainField("rfc2684Instance", "RFC 2684 entity", details.rfc2684Instance)
+        << plainField("wanVlanInstance", "VLAN entity", details.wanVlanInstance)
+        << plainField("dhcpcInstance", "DHCP client entity", details.dhcpcInstance)
+        << plainField("staticInstance", "Static address entity", details.staticInstance)
+        << plainField("vpnInstances", "VPN entities", listed(details.vpnInstances)));
 }
 
 QString internetState(Gateway& gateway, Wans& wans)
@@ -84,13 +84,14 @@ void status(Session& session)
     Gateway& gateway = session.gateway();
     Wans wans(gateway);
     const QString inUse = defaultGateway(gateway, wans, &Facade::getDefaultGwStatus);
-    Record record{field("defaultWan", "Default WAN", wans.defaultWan()),
-                  field("aliasDefaultWan", "Alias default WAN",
-                        defaultGateway(gateway, wans, &Facade::getAliasDefaultWan)),
-                  field("inUse", "In use", inUse),
-                  field("inUseByLinkState", "In use by link state",
-                        defaultGateway(gateway, wans, &Facade::getDefaultGwStatusWithLinkState)),
-                  field("internet", "Internet", internetState(gateway, wans))};
+    Record record{
+        plainField("defaultWan", "Default WAN", wans.defaultWan()),
+        plainField("aliasDefaultWan", "Alias default WAN",
+                   defaultGateway(gateway, wans, &Facade::getAliasDefaultWan)),
+        plainField("inUse", "In use", inUse),
+        plainField("inUseByLinkState", "In use by link state",
+                   defaultGateway(gateway, wans, &Facade::getDefaultGwStatusWithLinkState)),
+        plainField("internet", "Internet", internetState(gateway, wans))};
     const struct {
         const char* key;
         const char* heading;
@@ -108,7 +109,7 @@ void status(Session& session)
         const int up = gateway.ask(word("read the link state of ") + instance, [&](auto& error) {
             return (wans.facade().*link.getter)(instance, error);
         });
-        record.append(field(link.key, link.heading, up == 1));
+        record.append(plainField(link.key, link.heading, up == 1));
     }
     session.output().print(record);
 }

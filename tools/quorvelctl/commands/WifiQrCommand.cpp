@@ -1,0 +1,128 @@
+#include "commands/WifiCommands.h"
+
+#include "Failure.h"
+#include "QrCode.h"
+#include "Radios.h"
+#include "Session.h"
+
+#include <QSaveFile>
+#include <unistd.h>
+
+using namespace quorvel;
+
+namespace quorvelctl
+{
+
+namespace
+{
+
+const int pixelsOfAModule = 8;
+
+QString escaped(const QString& text)
+{
+    QString safe;
+    for (const QChar character : text) {
+        if (QStringLiteral("\\;,:\"").contains(character))
+            safe += QLatin1Char('\\');
+        safe += character;
+    }
+    return safe;
+}
+
+/// The WEP key in use. Gateways count from 1.
+QString wepKeyOf(const AspWirelessSettings& settings)
+{
+    const int index = settings.wepKeyIndex.toInt();
+    return settings.wepKeys[index >= 1 && index <= 4 ? index - 1 : 0];
+}
+
+/// What a phone reads that is to join the radio's network.
+QString invitationTo(const Radio& radio, const AspWirelessSettings& settings)
+{
+    const auto fail = [&](const QString& why) {
+        throw Failure{
+            GatewayFailed,
+            QStringLiteral("no phone can be told how to join %1: %2").arg(radio.name(), why)};
+    };
+    const Protection protection = protectionOf(settings.securityMode);
+    if (settings.ssid.isEmpty())
+        fail(QStringLiteral("its network has no name"));
+    if (protection == Protection::Unknown)
+        fail(QStringLiteral("its security mode is '%1'").arg(settings.securityMode));
+    const QString name = QLatin1String(";S:") + escaped(settings.ssid);
+    if (protection == Protection::None)
+        return QLatin1String("WIFI:T:nopass") + name + QLatin1String(";;");
+    const bool wpa = protection == Protection::Wpa;
+    const QString key = wpa ? settings.wpaPassword : wepKeyOf(settings);
+    if (key.isEmpty())
+        fail(QStringLiteral("its network has no key that all devices share"));
+    return QLatin1String(wpa ? "WIFI:T:WPA" : "WIFI:T:WEP") + name + QLatin1String(";P:") +
+           escaped(key) + QLatin1String(";;");
+}
+
+/// As text, a row to a line, for programs that draw for themselves.
+QJsonArray rowsOf(const QrCode& code)
+{
+    QJsonArray rows;
+    for (int row = 0; row < code.size(); ++row) {
+        QString line;
+        for (int column = 0; column < code.size(); ++column)
+            line += QLatin1Char(code.isDark(row, column) ? '1' : '0');
+        rows.append(line);
+    }
+    return rows;
+}
+
+/// Only the owner may read it, as it gives the key away.
+void save(const QrCode& code, const QString& path)
+{
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    const bool saved = file.open(QIODevice::WriteOnly) &&
+                       file.setPermissions(QSaveFile::ReadOwner | QSaveFile::WriteOwner) &&
+                       file.write(code.png(pixelsOfAModule)) > 0 && file.commit();
+    if (!saved)
+        throw Failure{GatewayFailed,
+                      QStringLiteral("can't write %1: %2").arg(path, file.errorString())};
+}
+
+void qr(Session& session, const std::string& name, const std::string& png)
+{
+    const Radio radio = Radios(session.gateway()).one(name);
+    const AspWirelessSettings settings = radio.settings();
+    const QString invitation = invitationTo(radio, settings);
+    const QrCode code(invitation.toUtf8());
+    Record record{plainField("radio", "Radio", radio.name()),
+                  plainField("ssid", "Network", settings.ssid)};
+    const Output output = session.output();
+    if (!png.empty()) {
+        const QString path = QString::fromStdString(png);
+        save(code, path);
+        output.print(record << plainField("file", "File", path));
+    } else if (session.options.json) {
+        output.print(record << secretField(QStringLiteral("text"), QString(), invitation)
+                            << plainField("rows", "", rowsOf(code)));
+    } else {
+        output.print(record);
+        output.printPicture(isatty(STDOUT_FILENO) ? code.colouredHalfBlocks() : code.halfBlocks());
+    }
+}
+
+} // namespace
+
+void addWifiQr(CLI::App& group, Session& session)
+{
+    auto* command = group.add_subcommand(
+        "qr", "Show the QR code with which a phone joins the network of a radio, key included");
+    command->footer("To ask for the code is to ask for the key: it is in the code in clear, with "
+                    "--show-secrets and without.\n\n" +
+                    group.get_footer());
+    const auto radio = addRadioOption(*command);
+    const auto png = std::make_shared<std::string>();
+    command
+        ->add_option("--png", *png, "Write it to this file as a PNG image, for nobody else to read")
+        ->type_name("FILE");
+    command->callback([&session, radio, png] { qr(session, *radio, *png); });
+}
+
+} // namespace quorvelctl
