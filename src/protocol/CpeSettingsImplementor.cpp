@@ -27,9 +27,10 @@ bool CpeSettingsImplementor::executeRequest(const QString& request, ParamMap& re
 {
     // No bound on the repetition: it ends when the gateway takes a session or refuses a login. A
     // loop, because the stack must not be what bounds it.
+    const int abortsBefore = aborts;
     for (;;) {
         const QString address = getCpeAddress();
-        const Outcome outcome = attempt(address, request, result, expectNoReply);
+        const Outcome outcome = attempt(address, request, result, expectNoReply, abortsBefore);
         if (outcome != Outcome::SessionExpired)
             return outcome == Outcome::Success;
         result.clear();
@@ -52,16 +53,22 @@ bool CpeSettingsImplementor::findSession(const QString& address, QString& sessio
 CpeSettingsImplementor::Outcome CpeSettingsImplementor::attempt(const QString& address,
                                                                 const QString& request,
                                                                 ParamMap& result,
-                                                                bool expectNoReply)
+                                                                bool expectNoReply,
+                                                                int abortsBefore)
 {
     QString session;
-    if (!findSession(address, session, result))
+    if (aborts == abortsBefore && !findSession(address, session, result))
         return Outcome::Failure;
     const ParamMap params{{HTTP_PARAM_METHOD, HTTP_PARAM_METHOD_POST},
                           {HTTP_PARAM_URL, address},
                           {HTTP_PARAM_SESSION, session},
                           {HTTP_PARAM_PATH, QStringLiteral("/cgi-bin/webapp")},
                           {HTTP_PARAM_DATA_TO_SEND, request}};
+    // An abort that comes between two exchanges finds none to end, and yet is meant for us.
+    if (aborts != abortsBefore) {
+        reportTransportFailure(result, CpeLoginRequestFailed, AspWebAppRequestFailed);
+        return Outcome::Failure;
+    }
     ParamMap transport;
     switch (executor->execute(params, transport)) {
     case RequestSucceeded:
@@ -101,6 +108,7 @@ QString CpeSettingsImplementor::getCpeAddress() const
 
 void CpeSettingsImplementor::abortRequests()
 {
+    ++aborts;
     if (executor)
         executor->abortPendingRequests();
 }

@@ -12,6 +12,8 @@ namespace quorvel
 namespace
 {
 
+const int readAhead = 256 * 1024;
+
 bool endsWithConnection(const QNetworkReply& reply)
 {
     const QVariant status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute);
@@ -47,7 +49,8 @@ qint64 NetworkExchange::OneWayBody::writeData(const char*, qint64)
     return -1;
 }
 
-NetworkExchange::NetworkExchange(const AbortSignal* abortSignal) : abortSignal(abortSignal)
+NetworkExchange::NetworkExchange(const AbortSignal* abortSignal)
+    : abortSignal(abortSignal), abortsBefore(abortSignal ? abortSignal->timesRaised() : 0)
 {
     manager.setProxy(QNetworkProxy::NoProxy);
 }
@@ -94,6 +97,10 @@ QNetworkReply::NetworkError NetworkExchange::error() const
 NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limitMs)
 {
     pending = reply;
+    // Else Qt's thread reads ahead without bound while ours is busy. Queued, because Qt forgets it
+    // if it comes before that thread has the request, which is queued too.
+    QMetaObject::invokeMethod(
+        reply, [reply] { reply->setReadBufferSize(readAhead); }, Qt::QueuedConnection);
     QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     QObject::connect(reply, &QNetworkReply::readyRead, &loop, [this] { receive(); });
     if (abortSignal)
@@ -105,7 +112,8 @@ NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limit
     timer.setInterval(limitMs);
     QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
     timer.start();
-    loop.exec();
+    if (!isAborted())
+        loop.exec();
 
     const bool timedOut = !timer.isActive();
     timer.stop();
@@ -118,6 +126,11 @@ NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limit
     if (timedOut)
         return Ending::TimedOut;
     return brokenOff || received.size() > largestBody ? Ending::BrokenOff : Ending::Finished;
+}
+
+bool NetworkExchange::isAborted() const
+{
+    return abortSignal && abortSignal->timesRaised() != abortsBefore;
 }
 
 void NetworkExchange::receive()
