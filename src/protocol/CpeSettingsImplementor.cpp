@@ -56,6 +56,7 @@ CpeSettingsImplementor::Outcome CpeSettingsImplementor::attempt(const QString& a
                                                                 bool expectNoReply,
                                                                 int abortsBefore)
 {
+    // Looked up once: what was found may be gone by now, for others use the storage as well.
     QString session;
     if (aborts == abortsBefore && !findSession(address, session, result))
         return Outcome::Failure;
