@@ -39,9 +39,18 @@ function(install_library prefix)
     endforeach()
 endfunction()
 
-# Configures and builds a CMake project below the working folder.
+# Configures and builds a CMake project below the working folder. Where another test has compiled the
+# same file with a build folder of the same depth, the compiler cache has it.
 function(build_project source build)
+    set(ENV{CCACHE_BASEDIR} ${BUILD_DIR})
+    set(ENV{CCACHE_NOHASHDIR} 1)
     run_step(${CMAKE_COMMAND} -S ${source} -B ${build} -G ${GENERATOR}
         -DCMAKE_CXX_COMPILER_LAUNCHER=ccache ${ARGN})
     run_step(${CMAKE_COMMAND} --build ${build})
+endfunction()
+
+# The library as a part of a host's own build.
+function(build_sub_project build)
+    build_project(${CMAKE_CURRENT_LIST_DIR}/sub_project ${build}
+        -DQUORVEL_SOURCES=${SOURCE_DIR} ${ARGN})
 endfunction()
