@@ -221,10 +221,14 @@ OperationsOfClass voiceReads()
     using F = AspVoipSettingsFacade;
     AspVoipCallHistoryFilter allCalls;
     allCalls.callType = 3;
+    const auto follow = [allCalls](Asked& a) {
+        a.voice.followVoipCallHistory(allCalls, AspVoipCallHistoryProgress(), a.error);
+    };
     return {"AspVoipSettingsFacade",
             {{"getVoipAccounts", calling(&Asked::voice, &F::getVoipAccounts)},
              {"getGainSettings", calling(&Asked::voice, &F::getGainSettings)},
-             {"getVoipCallHistory", calling(&Asked::voice, &F::getVoipCallHistory, allCalls)}}};
+             {"getVoipCallHistory", calling(&Asked::voice, &F::getVoipCallHistory, allCalls)},
+             {"followVoipCallHistory", follow}}};
 }
 
 OperationsOfClass usbHostReads()
