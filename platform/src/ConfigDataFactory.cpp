@@ -2,6 +2,8 @@
 
 #include <QMutexLocker>
 #include <QSettings>
+#include <QStringList>
+#include <QVariant>
 
 namespace ostramw
 {
@@ -22,7 +24,9 @@ QString ConfigDataFactory::getConfigValue(const QString& key) const
     const QString file = qEnvironmentVariable("OSTRA_CONFIG_FILE");
     if (file.isEmpty())
         return QString();
-    return QSettings(file, QSettings::IniFormat).value(key).toString();
+    // What holds commas is read as a list.
+    const QVariant value = QSettings(file, QSettings::IniFormat).value(key);
+    return value.toStringList().join(QLatin1Char(','));
 }
 
 void ConfigDataFactory::setConfigValue(const QString& key, const QString& value)

@@ -71,6 +71,14 @@ TEST_F(ConfigDataFactoryTest, ReadsWhatTheHostDidNotSetFromTheFile)
     EXPECT_EQ(value("group/name"), text("7"));
 }
 
+TEST_F(ConfigDataFactoryTest, ReadsValuesWithCommasWhole)
+{
+    writeFile("LIST=-6,0,6\nQUOTED=\"a, b\"\nEMPTY=\n");
+    EXPECT_EQ(value("LIST"), text("-6,0,6"));
+    EXPECT_EQ(value("QUOTED"), text("a, b"));
+    EXPECT_EQ(value("EMPTY"), QString());
+}
+
 TEST_F(ConfigDataFactoryTest, PrefersWhatTheHostSetEvenIfItIsEmpty)
 {
     writeFile("KEY=from the file\nEMPTY=from the file\n");
