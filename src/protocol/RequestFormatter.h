@@ -40,8 +40,8 @@ public:
 protected:
     using Queue = QList<boost::shared_ptr<RequestCommandData>>;
 
-    QMutex mutex;
     Queue commands;
+    QMutex mutex;
 
 private:
     Q_DISABLE_COPY(RequestFormatter)

@@ -2,8 +2,13 @@
 #include "protocol/AspRequestFormatterV2.h"
 #include "support/Text.h"
 
+#include <QMutexLocker>
+#include <atomic>
 #include <boost/make_shared.hpp>
+#include <functional>
 #include <gtest/gtest.h>
+#include <thread>
+#include <vector>
 
 namespace quorvel::test
 {
@@ -137,6 +142,54 @@ TEST_P(RequestFormatterTest, KeepsAQueueOfItsOwn)
 
 INSTANTIATE_TEST_SUITE_P(BothDialects, RequestFormatterTest, testing::ValuesIn(dialects),
                          dialectName);
+
+namespace
+{
+
+/// A formatter whose queue the test can lock.
+template <typename Formatter>
+class LockedFormatter : public Formatter
+{
+public:
+    using Formatter::mutex;
+};
+
+} // namespace
+
+TEST(OldRequestFormatter, TakesNoLockToFormat)
+{
+    LockedFormatter<AspRequestFormatterV1> formatter;
+    formatter.addGet(text("wan-0"), text("type"), QString());
+    const QMutexLocker locker(&formatter.mutex);
+    EXPECT_EQ(formatter.formatRequest().count(text("<get ")), 1);
+    EXPECT_EQ(formatter.formatCommands(), QString());
+    EXPECT_EQ(formatter.wrapCommands(text("<x/>")), QString());
+}
+
+TEST(NewRequestFormatter, WaitsForTheQueueToFormat)
+{
+    LockedFormatter<AspRequestFormatterV2> formatter;
+    std::atomic<bool> released{false};
+    std::vector<std::thread> callers;
+    {
+        const QMutexLocker locker(&formatter.mutex);
+        for (const auto& format : std::vector<std::function<void()>>{
+                 [&] { formatter.formatRequest(); }, [&] { formatter.formatCommands(); },
+                 [&] { formatter.wrapCommands(QString()); }, [&] { formatter.clearCommands(); },
+                 [&] { formatter.addGet(QString(), QString(), QString()); }}) {
+            callers.emplace_back([&released, format] {
+                format();
+                EXPECT_TRUE(released);
+            });
+        }
+        // Room for those who don't wait.
+        for (int i = 0; i < 100; ++i)
+            std::this_thread::yield();
+        released = true;
+    }
+    for (std::thread& caller : callers)
+        caller.join();
+}
 
 TEST(RequestCommandData, IsEmptyAfterConstruction)
 {
