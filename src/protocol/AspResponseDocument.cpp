@@ -1,6 +1,7 @@
 #include "protocol/AspResponseDocument.h"
 
 #include "protocol/GuardedXmlReader.h"
+#include "protocol/ParamKeys.h"
 
 namespace quorvel
 {
@@ -23,12 +24,7 @@ void insertLeaves(const QDomElement& object, ParamMap& result)
 {
     for (QDomElement leaf = object.firstChildElement(); !leaf.isNull();
          leaf = leaf.nextSiblingElement())
-        result.insert(entryKey(object.tagName(), leaf.tagName()), leaf.text());
-}
-
-QString entryKey(const QString& object, const QString& entry)
-{
-    return object + QLatin1Char('.') + entry;
+        result.insert(replyKey(object.tagName(), leaf.tagName()), leaf.text());
 }
 
 } // namespace quorvel

@@ -15,7 +15,4 @@ QDomDocument readResponse(const QString& response, ParamMap& result);
 /// Adds one entry per element of `object`: the element's name and text, below the object's name.
 void insertLeaves(const QDomElement& object, ParamMap& result);
 
-/// The name under which an entry of an object stands in the map.
-QString entryKey(const QString& object, const QString& entry);
-
 } // namespace quorvel

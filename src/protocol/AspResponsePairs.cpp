@@ -1,6 +1,7 @@
 #include "protocol/AspResponsePairs.h"
 
 #include "protocol/AspResponseDocument.h"
+#include "protocol/ParamKeys.h"
 
 namespace quorvel
 {
@@ -24,7 +25,7 @@ void insertPair(const QDomElement& object, ParamMap& result,
     if (key.isEmpty())
         insertLeaves(object, result);
     else
-        result.insert(entryKey(object.tagName(), key), value);
+        result.insert(replyKey(object.tagName(), key), value);
 }
 
 } // namespace
