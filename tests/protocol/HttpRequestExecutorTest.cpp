@@ -246,6 +246,13 @@ TEST_F(HttpRequestExecutorTest, LooksAtNoOtherStatus)
     EXPECT_EQ(bodyOf(result), text("<r/>"));
 }
 
+TEST_F(HttpRequestExecutorTest, TellsAnUnknownNetworkErrorOfTheSystems)
+{
+    // Refused by this machine itself, in its own words: nobody connects to everybody.
+    EXPECT_EQ(executor.execute(requestTo(text("255.255.255.255")), result), 4);
+    EXPECT_EQ(entries(result), lines({"old=1"}));
+}
+
 TEST_F(HttpRequestExecutorTest, OpensAConnectionForEveryExchange)
 {
     EXPECT_EQ(execute(request(), "Connection: Keep-Alive\r\nSet-Cookie: SID=1\r\n"), 0);
