@@ -139,6 +139,27 @@ TEST_F(CpeOfBuiltGateway, EndsARequestInFlightWhenItGoes)
     EXPECT_EQ(entries(result), lines({"AUTH_PARAM_LOGINRESULT=3", "webapp.error=29"}));
 }
 
+TEST_F(CpeOfBuiltGateway, LetsARequestOfANewerRadioRunToItsEndWhenItGoes)
+{
+    buildNewest();
+    gateway.answer([](const ReceivedRequest&, GatewayConnection& peer) {
+        peer.waitForRelease();
+        peer.send(httpReply("<response version=\"1.0.1\"/>"));
+    });
+    const auto radio = cpe->getWirelessImplementorNG();
+    ParamMap result;
+    bool answered = false;
+    std::thread caller([&] {
+        answered = radio->executeRequest(text("<xmlrequest version=\"1.0.1\"/>"), result, false);
+    });
+    EXPECT_TRUE(gateway.waitForRequests(1));
+    cpe.reset();
+    gateway.release();
+    caller.join();
+    EXPECT_TRUE(answered);
+    EXPECT_EQ(entries(result), lines({"response=1.0.1"}));
+}
+
 TEST_F(CpeOfBuiltGateway, TakesAStoredSessionForValid)
 {
     build({});
