@@ -2,29 +2,46 @@
 
 #include "Failure.h"
 
+#include <QElapsedTimer>
+
 namespace quorvelctl
 {
 
 using namespace quorvel;
 
+namespace
+{
+
+/// How long the library waits for one reply.
+const int replyLimitMs = 20000;
+
+} // namespace
+
 Gateway::Gateway(const AuthenticationInfo& login, LogWatch& watch)
     : watch(watch), info(login), handle(info)
 {
     watch.reset();
+    QElapsedTimer clock;
+    clock.start();
     generalFacade = handle.getGeneralSettingsFacade();
     if (!generalFacade)
-        explainUnusable();
+        explainUnusable(clock.elapsed());
 }
 
-void Gateway::explainUnusable() const
+void Gateway::explainUnusable(qint64 waitedMs) const
 {
-    // The library says no more than that there is no gateway; its log lines tell why.
+    // The library says no more than that there is no gateway; its log lines tell why a login
+    // failed. Of what comes behind the login, only the clock and another look at the gateway tell.
     if (watch.loginWasRefused())
         throw Failure{
             LoginRefused,
             QStringLiteral("%1 refused the login of user '%2'").arg(address(), info.user)};
     if (watch.loginGotLost())
         throw Failure{NotReachable, QStringLiteral("%1 can't be reached").arg(address())};
+    if (waitedMs >= replyLimitMs)
+        throw Failure{NotReachable, QStringLiteral("%1 didn't answer in time").arg(address())};
+    if (!AspCpeFacadeObject::isDeviceAvailable(address()))
+        throw Failure{NotReachable, QStringLiteral("%1 doesn't answer any more").arg(address())};
     throw Failure{GatewayFailed,
                   QStringLiteral("%1 answers, but not as a gateway does").arg(address())};
 }

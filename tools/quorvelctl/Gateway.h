@@ -77,7 +77,7 @@ private:
     void expectSuccess(const QString& what, quorvel::AspWebAppErrorCodes error) const;
     [[noreturn]] void refuse(const QString& what) const;
     [[noreturn]] void lack(const QString& function) const;
-    [[noreturn]] void explainUnusable() const;
+    [[noreturn]] void explainUnusable(qint64 waitedMs) const;
 
     LogWatch& watch;
     const quorvel::AuthenticationInfo info;
