@@ -51,9 +51,9 @@ public:
     /// recognised yet.
     bool setAuthenticationInfo(const AuthenticationInfo& info);
 
-    /// Logs in unless a session is stored; with `forceLogin` in any case. Blocks for recognition if
-    /// that is still due, and for one exchange. CpeLoginFailed if the gateway can't be recognised
-    /// or has no general settings.
+    /// Logs in unless a session is stored; in any case with `forceLogin`, and with an address that
+    /// starts with "http://". Blocks for recognition if that is still due, and for one exchange.
+    /// CpeLoginFailed if the gateway can't be recognised or has no general settings.
     CpeLoginResult loginToCpe(bool forceLogin);
 
     /// What recognition found; all empty if the gateway can't be recognised. `result`, unless null,

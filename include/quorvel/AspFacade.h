@@ -18,9 +18,10 @@ class Cpe;
 ///
 /// - **Blocking.** An operation that talks to the gateway blocks its caller until the gateway has
 ///   answered, for at most 20 seconds per exchange; each operation tells how many exchanges it
-///   makes if that is not one. A request without a stored session logs in first, and a request
-///   that meets an expired session logs in and is repeated: each such round adds two exchanges,
-///   and as long as a gateway hands out sessions and refuses each at once, the rounds go on.
+///   makes if that is not one. A gateway whose reply headers never end may cost five seconds more.
+///   A request without a stored session logs in first, and a request that meets an expired session
+///   logs in and is repeated: each such round adds two exchanges, and as long as a gateway hands
+///   out sessions and refuses each at once, the rounds go on.
 /// - **Events.** Queued events of the calling thread, timers included, run during the wait. An
 ///   event that calls into the same family of the same gateway waits for ever, because the family
 ///   is locked by the call that it interrupts; an operation that says it takes no lock fails
@@ -33,6 +34,8 @@ class Cpe;
 ///   family of one gateway are put in a row, those of different families run side by side.
 /// - **Errors.** Nothing throws. The last argument is overwritten on entry and again after the
 ///   request. On failure the stated default is returned.
+/// - **Log.** Most values read go to the host's logger at DEBUG, most failures at ERROR. The DEBUG
+///   lines of a login hold its session in clear, and those of a class that says so passwords.
 /// - **Ownership.** A facade shares the gateway's parts, so it stays usable when the object that
 ///   made it is gone. A request that is waiting then is not disturbed.
 class QUORVEL_API AspFacade
