@@ -69,16 +69,38 @@ std::string maskedForm(const std::string& body)
     return result;
 }
 
+std::string maskedCookie(const std::string& cookie)
+{
+    const auto value = cookie.find('=');
+    return (value == std::string::npos ? " " : cookie.substr(0, value + 1)) + mask;
+}
+
+// What a client sends: any number of them in one line.
+std::string maskedCookies(const std::string& cookies)
+{
+    std::string result;
+    for (std::size_t start = 0; start < cookies.size();) {
+        const auto end = std::min(cookies.find(';', start), cookies.size());
+        result += maskedCookie(cookies.substr(start, end - start));
+        result += end < cookies.size() ? ";" : "";
+        start = end + 1;
+    }
+    return result;
+}
+
 std::string maskedHeader(const std::string& line)
 {
     const std::string name = lower(line.substr(0, line.find(':')));
-    if (name != "cookie" && name != "set-cookie")
+    const std::string label = line.substr(0, name.size() + 1);
+    const std::string value = line.substr(label.size());
+    if (name == "authorization" || name == "proxy-authorization")
+        return label + " " + mask;
+    if (name == "cookie")
+        return label + maskedCookies(value);
+    if (name != "set-cookie")
         return line;
-    const auto value = line.find('=');
-    const auto end = std::min(line.find(';'), line.size());
-    if (value == std::string::npos || value > end)
-        return line.substr(0, name.size() + 1) + " " + mask;
-    return line.substr(0, value + 1) + mask + line.substr(end);
+    const auto attributes = std::min(value.find(';'), value.size());
+    return label + maskedCookie(value.substr(0, attributes)) + value.substr(attributes);
 }
 
 std::string maskedHead(const std::string& head)

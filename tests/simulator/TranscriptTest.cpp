@@ -51,6 +51,23 @@ TEST_F(TranscriptTest, MasksTheLogin)
     EXPECT_THAT(text, Not(HasSubstr(cookie)));
 }
 
+TEST_F(TranscriptTest, MasksEveryCookieAndWhateverElseLogsIn)
+{
+    EXPECT_EQ(toTranscript({{"GET", "/",
+                             "GET / HTTP/1.1\r\nCookie: theme=S3CRET; SID=S3CRET;S3CRET\r\n"
+                             "authorization: Basic S3CRET\r\n"
+                             "Proxy-Authorization: Basic S3CRET\r\nX-Cookie: a=b\r\n",
+                             "",
+                             "HTTP/1.1 200 OK\r\nSet-Cookie: SID=S3CRET; path=/; HttpOnly\r\n"
+                             "Set-Cookie: S3CRET\r\n",
+                             "", ""}}),
+              "==== 1: GET /\nGET / HTTP/1.1\n"
+              "Cookie: theme=********; SID=********; ********\n"
+              "authorization: ********\nProxy-Authorization: ********\nX-Cookie: a=b\n\n"
+              "---- reply\nHTTP/1.1 200 OK\nSet-Cookie: SID=********; path=/; HttpOnly\n"
+              "Set-Cookie: ********\n\n\n");
+}
+
 TEST_F(TranscriptTest, MasksSecretsInRequests)
 {
     send({"set a password S3CRET", "set a wpa_password S3CRET", "set a wep_key1 S3CRET",
