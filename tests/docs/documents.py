@@ -4,8 +4,8 @@ The documents are followed in the given order by a reader with a fresh clone and
 a fenced block is stands behind its fence:
 
     sh              commands, one a line, each of which must succeed
-    console         commands behind "$ " (continued behind "> "), and what they print; "..." alone on
-                    a line stands for any lines
+    console         commands behind "$ ", continued behind a backslash, and what they print; "..."
+                    alone on a line stands for any lines
     cpp             a whole program if it has a main, otherwise statements; both must compile
     cmake           a piece of a project; it must configure
     json            a scenario; the simulator must take it
@@ -53,7 +53,8 @@ class Shell:
     def __init__(self, folder, environment):
         ours, self._commands = os.pipe()
         self._process = subprocess.Popen(
-            ["bash", "-c", f"while IFS= read -r -d '' -u {ours} line; do"
+            ["bash", "-c", "trap 'kill $(jobs -p) 2>/dev/null' EXIT;"
+             f" while IFS= read -r -d '' -u {ours} line; do"
              f" eval \"$line\" {ours}<&-; echo \"{MARK}$?\"; done"], cwd=folder, env=environment,
             pass_fds=[ours], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
             stderr=subprocess.STDOUT, start_new_session=True)
@@ -175,8 +176,8 @@ class Reader:
                 self._expect(block, command, expected)
             if line.startswith("$ "):
                 command, expected = line[2:], []
-            elif line.startswith("> ") and not expected:
-                command += "\n" + line[2:]
+            elif command.endswith("\\") and not expected:
+                command = command[:-1] + line
             else:
                 expected.append(line)
 
