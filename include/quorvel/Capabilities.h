@@ -27,10 +27,13 @@ class QUORVEL_API SecurityMode
 public:
     virtual ~SecurityMode();
 
+    /// @{
+    /// The node's data and name, as told of all nodes at the top of Capabilities.h.
     QVariantMap getData() const { return data; }
     void setData(const QVariantMap& value) { data = value; }
     QString getName() const { return name; }
     void setName(const QString& value) { name = value; }
+    /// @}
 
 private:
     QVariantMap data;
@@ -43,13 +46,18 @@ class QUORVEL_API SecurityModes
 public:
     virtual ~SecurityModes();
 
+    /// @{
+    /// The node's data and name, as told of all nodes at the top of Capabilities.h.
     QVariantMap getData() const { return data; }
     void setData(const QVariantMap& value) { data = value; }
     QString getName() const { return name; }
     void setName(const QString& value) { name = value; }
+    /// @}
+
+    /// Empty before parse(). The nodes are shared, not copied.
     QList<boost::shared_ptr<SecurityMode>> getItems() const { return items; }
 
-    void parse();
+    void parse(); ///< Makes the fields and the nodes below from the data.
 
 private:
     QVariantMap data;
@@ -63,16 +71,20 @@ class QUORVEL_API Bws
 public:
     virtual ~Bws();
 
+    /// @{
+    /// The node's data and name, as told of all nodes at the top of Capabilities.h.
     QVariantMap getData() const { return data; }
     void setData(const QVariantMap& value) { data = value; }
     QString getName() const { return name; }
     void setName(const QString& value) { name = value; }
+    /// @}
+
     /// Display text.
     QString getText() const { return text; }
     /// Rates of the width, as the gateway lists them.
     QVariantList getRates() const { return rates; }
 
-    void parse();
+    void parse(); ///< Makes the fields and the nodes below from the data.
 
 private:
     QVariantMap data;
@@ -87,13 +99,18 @@ class QUORVEL_API Chanbws
 public:
     virtual ~Chanbws();
 
+    /// @{
+    /// The node's data and name, as told of all nodes at the top of Capabilities.h.
     QVariantMap getData() const { return data; }
     void setData(const QVariantMap& value) { data = value; }
     QString getName() const { return name; }
     void setName(const QString& value) { name = value; }
+    /// @}
+
+    /// Empty before parse(). The nodes are shared, not copied.
     QList<boost::shared_ptr<Bws>> getItems() const { return items; }
 
-    void parse();
+    void parse(); ///< Makes the fields and the nodes below from the data.
 
 private:
     QVariantMap data;
@@ -107,10 +124,14 @@ class QUORVEL_API Mode
 public:
     virtual ~Mode();
 
+    /// @{
+    /// The node's data and name, as told of all nodes at the top of Capabilities.h.
     QVariantMap getData() const { return data; }
     void setData(const QVariantMap& value) { data = value; }
     QString getName() const { return name; }
     void setName(const QString& value) { name = value; }
+    /// @}
+
     /// Display text.
     QString getText() const { return text; }
     /// Name of the width that the radio takes unless told otherwise.
@@ -120,7 +141,7 @@ public:
     /// Null if the gateway tells none.
     boost::shared_ptr<Chanbws> getChanbws() const { return chanbws; }
 
-    void parse();
+    void parse(); ///< Makes the fields and the nodes below from the data.
 
 private:
     QVariantMap data;
@@ -137,13 +158,18 @@ class QUORVEL_API Modes
 public:
     virtual ~Modes();
 
+    /// @{
+    /// The node's data and name, as told of all nodes at the top of Capabilities.h.
     QVariantMap getData() const { return data; }
     void setData(const QVariantMap& value) { data = value; }
     QString getName() const { return name; }
     void setName(const QString& value) { name = value; }
+    /// @}
+
+    /// Empty before parse(). The nodes are shared, not copied.
     QList<boost::shared_ptr<Mode>> getItems() const { return items; }
 
-    void parse();
+    void parse(); ///< Makes the fields and the nodes below from the data.
 
 private:
     QVariantMap data;
@@ -157,17 +183,25 @@ class QUORVEL_API Channel
 public:
     virtual ~Channel();
 
+    /// @{
+    /// The node's data and name, as told of all nodes at the top of Capabilities.h.
     QVariantMap getData() const { return data; }
     void setData(const QVariantMap& value) { data = value; }
     QString getName() const { return name; }
     void setName(const QString& value) { name = value; }
+    /// @}
+
+    /// @{
+    /// The number that the gateway gives under this name. What it means is the gateway's affair.
     qint32 getShow() const { return show; }
     qint32 getDfs() const { return dfs; }
+    qint32 getFreqVal() const { return freqVal; }
+    /// @}
+
     /// Flag of the one-touch pairing.
     qint32 getZenPair() const { return zenPair; }
-    qint32 getFreqVal() const { return freqVal; }
 
-    void parse();
+    void parse(); ///< Makes the fields and the nodes below from the data.
 
 private:
     QVariantMap data;
@@ -184,13 +218,18 @@ class QUORVEL_API Channels
 public:
     virtual ~Channels();
 
+    /// @{
+    /// The node's data and name, as told of all nodes at the top of Capabilities.h.
     QString getName() const { return name; }
     void setName(const QString& value) { name = value; }
     QVariantMap getData() const { return data; }
     void setData(const QVariantMap& value) { data = value; }
+    /// @}
+
+    /// Empty before parse(). The nodes are shared, not copied.
     QList<boost::shared_ptr<Channel>> getItems() const { return items; }
 
-    void parse();
+    void parse(); ///< Makes the fields and the nodes below from the data.
 
 private:
     QString name;
@@ -204,10 +243,14 @@ class QUORVEL_API Ghz
 public:
     virtual ~Ghz();
 
+    /// @{
+    /// The node's data and name, as told of all nodes at the top of Capabilities.h.
     QVariantMap getData() const { return data; }
     void setData(const QVariantMap& value) { data = value; }
     QString getName() const { return name; }
     void setName(const QString& value) { name = value; }
+    /// @}
+
     /// Display text.
     QString getText() const { return text; }
     /// Name of the transmit mode that the radio takes unless told otherwise.
@@ -219,7 +262,7 @@ public:
     /// Null if the gateway tells none.
     boost::shared_ptr<Modes> getModes() const { return modes; }
 
-    void parse();
+    void parse(); ///< Makes the fields and the nodes below from the data.
 
 private:
     QVariantMap data;
@@ -237,16 +280,20 @@ class QUORVEL_API Band
 public:
     virtual ~Band();
 
+    /// @{
+    /// The node's data and name, as told of all nodes at the top of Capabilities.h.
     QVariantMap getData() const { return data; }
     void setData(const QVariantMap& value) { data = value; }
     QString getName() const { return name; }
     void setName(const QString& value) { name = value; }
+    /// @}
+
     /// The 2.4 GHz band.
     boost::shared_ptr<Ghz> getGhz2400() const { return ghz2400; }
     /// The 5 GHz band.
     boost::shared_ptr<Ghz> getGhz5000() const { return ghz5000; }
 
-    void parse();
+    void parse(); ///< Makes the fields and the nodes below from the data.
 
 private:
     QVariantMap data;
@@ -261,10 +308,14 @@ class QUORVEL_API Capabilities
 public:
     virtual ~Capabilities();
 
+    /// @{
+    /// The node's data and name, as told of all nodes at the top of Capabilities.h.
     QVariantMap getData() const { return data; }
     void setData(const QVariantMap& value) { data = value; }
     QString getName() const { return name; }
     void setName(const QString& value) { name = value; }
+    /// @}
+
     /// Operation modes, as the gateway lists them.
     QVariantList getOperationModes() const { return operationModes; }
     /// As the gateway lists it.
@@ -276,7 +327,7 @@ public:
     /// Null if the gateway tells none.
     boost::shared_ptr<Band> getBand() const { return band; }
 
-    void parse();
+    void parse(); ///< Makes the fields and the nodes below from the data.
 
 private:
     QVariantMap data;

@@ -35,6 +35,9 @@ public:
     /// one and a time-out count. Status keys in `result` tell what went wrong. Takes no lock.
     virtual bool executeRequest(const QString& request, ParamMap& result, bool expectNoReply);
 
+    /// @{
+    /// One of the four parts, which is shared. Null before the builder sets it, and always in the
+    /// facade of a radio. Not to be set while another thread uses the object.
     boost::shared_ptr<ResponseParser> getResponseParser() const { return parser; }
     void setResponseParser(boost::shared_ptr<ResponseParser> newParser) { parser = newParser; }
     boost::shared_ptr<RequestFormatter> getRequestFormatter() const { return formatter; }
@@ -55,6 +58,7 @@ public:
     {
         authenticator = newAuthenticator;
     }
+    /// @}
 
     /// The address as the host gave it.
     QString getCpeAddress() const;

@@ -1,0 +1,296 @@
+"""Does what the documents tell their readers to do: documents.py SOURCE SCRATCH DOCUMENT...
+
+The documents are followed in the given order by a reader with a fresh clone and an empty home. What
+a fenced block is stands behind its fence:
+
+    sh              commands, one a line, each of which must succeed
+    console         commands behind "$ ", continued behind a backslash, and what they print; "..."
+                    alone on a line stands for any lines
+    cpp             a whole program if it has a main, otherwise statements; both must compile
+    cmake           a piece of a project; it must configure
+    json            a scenario; the simulator must take it
+    text            neither input nor output; nothing is done with it
+    LANGUAGE FILE   an excerpt of that file of the clone, or else a file that the reader makes
+
+Ports differ from run to run: the first time that a document shows one it is learnt, and from then
+on the document's number means the real one.
+"""
+
+import os
+import pathlib
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import threading
+import time
+
+PATIENCE = 60  # seconds: only a failure takes that long
+BUILDING = 1800
+PORT = re.compile(r"(127\.0\.0\.1:|control port )(\d+)")
+MARK = "--done-5f1c--"
+
+# What the statements of a snippet can use beside the library.
+SNIPPET = """
+void snippet{line}(boost::shared_ptr<AspCpeFacadeObject> gateway, AuthenticationInfo info,
+                   AspWebAppErrorCodes error, QObject* window)
+{{
+    (void)gateway, (void)info, (void)error, (void)window;
+#line {start} "{document}"
+{body}
+}}
+"""
+
+
+class Wrong(Exception):
+    """What a document shows is not so."""
+
+
+class Shell:
+    """The reader's shell: one bash per document, with whatever was started in it."""
+
+    def __init__(self, folder, environment):
+        ours, self._commands = os.pipe()
+        self._process = subprocess.Popen(
+            ["bash", "-c", "trap 'kill $(jobs -p) 2>/dev/null' EXIT;"
+             f" while IFS= read -r -d '' -u {ours} line; do"
+             f" eval \"$line\" {ours}<&-; echo \"{MARK}$?\"; done"], cwd=folder, env=environment,
+            pass_fds=[ours], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+            stderr=subprocess.STDOUT, start_new_session=True)
+        os.close(ours)
+        self._text = ""
+        self._news = threading.Condition()
+        threading.Thread(target=self._read, daemon=True).start()
+
+    def _read(self):
+        while piece := self._process.stdout.read1(4096):
+            with self._news:
+                self._text += piece.decode(errors="replace")
+                self._news.notify()
+
+    def run(self, command, is_enough=lambda output: True, patience=PATIENCE):
+        """The exit status and the output, which for background programs is waited for."""
+        os.write(self._commands, command.encode() + b"\0")
+        deadline = time.monotonic() + patience
+        mark = re.compile(re.escape(MARK) + r"(\d+)\n")
+        with self._news:
+            while True:
+                done = mark.search(self._text)
+                output = mark.sub("", self._text)
+                late = time.monotonic() > deadline
+                if done and (late or " &" not in command or int(done[1]) or is_enough(output)):
+                    self._text = ""
+                    return int(done[1]), output
+                if late:
+                    raise Wrong(f"doesn't end: {command}\n{output}")
+                self._news.wait(1)
+
+    def close(self):
+        os.close(self._commands)
+        try:
+            os.killpg(self._process.pid, signal.SIGTERM)
+        except ProcessLookupError:
+            pass
+        self._process.wait(PATIENCE)
+
+
+class Block:
+    def __init__(self, document, line, info, text):
+        self.document, self.line, self.text = document, line, text
+        self.language, _, self.file = info.partition(" ")
+
+    def __str__(self):
+        return f"{self.document}:{self.line}"
+
+
+def blocks_of(document, text):
+    fence, start, lines = None, 0, []
+    for number, line in enumerate(text.splitlines(), 1):
+        if fence is None and line.startswith("```"):
+            fence, start, lines = line[3:].strip(), number, []
+        elif fence is not None and line.startswith("```"):
+            yield Block(document, start, fence, "".join(lines))
+            fence = None
+        else:
+            lines.append(line + "\n")
+
+
+class Reader:
+    """Follows one document."""
+
+    def __init__(self, clone, home, document, environment):
+        self._clone, self._home, self._environment = clone, home, environment
+        self._shell = Shell(clone, environment)
+        self._ports = {}
+        self._snippets = []
+        self._document = document
+
+    def follow(self):
+        done = {"sh": self._sh, "console": self._console, "cpp": self._cpp, "cmake": self._cmake,
+                "json": self._json, "text": lambda block: None}
+        text = (self._clone / self._document).read_text()
+        for block in blocks_of(self._document, text):
+            if block.language not in done:
+                raise Wrong(f"{block}: '{block.language}' says not what to do with this block")
+            if block.file:
+                self._file(block)
+            else:
+                done[block.language](block)
+        self._compile_snippets()
+
+    def close(self):
+        self._shell.close()
+
+    def _file(self, block):
+        path = self._clone / block.file
+        if path.exists():
+            if block.text not in path.read_text():
+                raise Wrong(f"{block}: that's not what stands in {block.file}")
+            return
+        path = pathlib.Path(block.file.replace("~", str(self._home), 1))
+        path = self._clone / path
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(self._real(block.text))
+
+    def _real(self, text):
+        """The text with the ports as they are in this run."""
+        for shown, real in self._ports.items():
+            text = re.sub(rf"\b{shown}\b", real, text)
+        return text
+
+    def _run(self, block, command, *rest, **others):
+        status, output = self._shell.run(self._real(command), *rest, **others)
+        if status != 0:
+            raise Wrong(f"{block}: status {status} from: {command}\n{output}")
+        return output
+
+    def _sh(self, block):
+        for command in block.text.replace("\\\n", " ").splitlines():
+            self._run(block, command, patience=BUILDING)
+
+    def _console(self, block):
+        command, expected = "", []
+        for line in [*block.text.splitlines(), "$ "]:
+            if line.startswith("$ ") and command:
+                self._expect(block, command, expected)
+            if line.startswith("$ "):
+                command, expected = line[2:], []
+            elif command.endswith("\\") and not expected:
+                command = command[:-1] + line
+            else:
+                expected.append(line)
+
+    def _expect(self, block, command, expected):
+        names = []
+
+        def port(found):
+            if found[2] in self._ports:
+                return found[1] + self._ports[found[2]]
+            names.append(found[2])
+            return found[1] + "PORT"
+
+        lines = [PORT.sub(port, self._real(line)) for line in expected]
+        pattern = "".join(
+            r"(?:.*\n)*?" if line == "..." else
+            re.escape(line).replace("PORT", r"(\d+)") + r"\n" for line in lines)
+        matches = re.compile(pattern).fullmatch
+        output = self._run(block, command, matches, patience=BUILDING if "..." in expected
+                           else PATIENCE)
+        found = matches(output)
+        if not found:
+            raise Wrong(f"{block}: {command}\nprints:\n{output}instead of:\n"
+                        + "".join(line + "\n" for line in expected))
+        self._ports.update(zip(names, found.groups()))
+
+    def _cpp(self, block):
+        if "int main(" in block.text:
+            self._compile(f'#line {block.line + 1} "{block}"\n{block.text}')
+        else:
+            self._snippets.append(block)
+
+    def _compile_snippets(self):
+        if not self._snippets:
+            return
+        heads, bodies = ["#include <quorvel/QuorvelApi1.h>\n#include <QtCore>\n"], []
+        for block in self._snippets:
+            lines = block.text.splitlines(keepends=True)
+            heads += [line for line in lines if line.startswith(("#include", "using namespace"))]
+            body = "".join("\n" if line in heads else line for line in lines)
+            bodies.append(SNIPPET.format(line=block.line, start=block.line + 1, body=body,
+                                         document=block.document))
+        self._compile("".join(heads) + "using namespace quorvel;\n" + "".join(bodies))
+
+    def _compile(self, text):
+        flags = subprocess.run(["pkg-config", "--cflags", "quorvelapi1"], check=True, text=True,
+                               env=self._environment, stdout=subprocess.PIPE).stdout.split()
+        if "quorvel-simulator/" in text:
+            flags += [f"-I{self._clone}/simulator/include"]
+            text = "#include <gtest/gtest.h>\n" + text
+        done = subprocess.run(
+            ["c++", "-std=c++17", "-fPIC", "-fsyntax-only", *flags, "-x", "c++", "-"], input=text,
+            text=True, stderr=subprocess.PIPE)
+        if done.returncode != 0:
+            raise Wrong(f"{self._document}: doesn't compile:\n{done.stderr}")
+
+    def _cmake(self, block):
+        folder = self._home / "cmake-snippet"
+        shutil.rmtree(folder, ignore_errors=True)
+        folder.mkdir()
+        (folder / "main.cpp").write_text("int main() {}\n")
+        (folder / "CMakeLists.txt").write_text(
+            "cmake_minimum_required(VERSION 3.20)\nproject(Host LANGUAGES CXX)\n"
+            "add_executable(host main.cpp)\n" + block.text)
+        self._run(block, f"cmake -S {folder} -B {folder}/build -G Ninja"
+                         f" -DCMAKE_PREFIX_PATH={self._home}/quorvel")
+
+    def _json(self, block):
+        scenario = self._home / "scenario.json"
+        scenario.write_text(block.text)
+        self._expect(block, f"quorvel-gateway-sim --scenario {scenario} & scenario=$!",
+                     ["quorvel-gateway-sim: listening on http://127.0.0.1:00001"])
+        self._ports.pop("00001")
+        self._run(block, "kill $scenario && wait $scenario")
+
+
+def fresh_clone(source, folder):
+    files = subprocess.run(
+        ["git", "-C", source, "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+        check=True, stdout=subprocess.PIPE, text=True).stdout.split("\0")
+    for file in filter(None, files):
+        if (source / file).exists():
+            (folder / file).parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy2(source / file, folder / file)
+
+
+def main(source, scratch, documents):
+    shutil.rmtree(scratch, ignore_errors=True)
+    clone, home = scratch / "clone", scratch / "home"
+    clone.mkdir(parents=True)
+    home.mkdir()
+    fresh_clone(source, clone)
+    cache = subprocess.run(["ccache", "--get-config", "cache_dir"], check=True, text=True,
+                           stdout=subprocess.PIPE).stdout.strip()
+    environment = {
+        **os.environ, "HOME": str(home), "PATH": f"{home}/quorvel/bin:{os.environ['PATH']}",
+        "PKG_CONFIG_PATH": ":".join(str(home / "quorvel" / lib / "pkgconfig")
+                                    for lib in ("lib", "lib/x86_64-linux-gnu", "lib64")),
+        # What is built already need not be built again.
+        "CCACHE_DIR": cache, "CCACHE_BASEDIR": str(clone), "CCACHE_NOHASHDIR": "1",
+        "CCACHE_SLOPPINESS": "include_file_mtime,include_file_ctime,pch_defines,time_macros"}
+    failed = 0
+    for document in documents:
+        reader = Reader(clone, home, document, environment)
+        try:
+            reader.follow()
+            print(f"{document}: as it says", flush=True)
+        except Wrong as wrong:
+            failed += 1
+            print(f"{document}: FAILED\n{wrong}", flush=True)
+        finally:
+            reader.close()
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(pathlib.Path(sys.argv[1]), pathlib.Path(sys.argv[2]), sys.argv[3:]))
