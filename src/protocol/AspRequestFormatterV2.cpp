@@ -1,6 +1,7 @@
 #include "protocol/AspRequestFormatterV2.h"
 
 #include "protocol/AspRequestDocument.h"
+#include "protocol/Latin1.h"
 
 #include <QMutexLocker>
 
@@ -10,9 +11,9 @@ namespace quorvel
 namespace
 {
 
-constexpr QLatin1String version("1.0.1");
-constexpr QLatin1String openingTag("<xmlrequest version=\"1.0.1\">");
-constexpr QLatin1String closingTag("</xmlrequest>");
+constexpr QLatin1String version = "1.0.1"_latin1;
+constexpr QLatin1String openingTag = "<xmlrequest version=\"1.0.1\">"_latin1;
+constexpr QLatin1String closingTag = "</xmlrequest>"_latin1;
 
 } // namespace
 

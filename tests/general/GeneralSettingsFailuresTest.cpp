@@ -33,11 +33,6 @@ protected:
     QString run(Facade& onFacade) { return GetParam().run(onFacade, error); }
 };
 
-QString shown(bool flag)
-{
-    return flag ? text("true") : text("false");
-}
-
 QString shown(const QList<AspDhcpsClient>& clients)
 {
     return text("%1 clients").arg(clients.size());

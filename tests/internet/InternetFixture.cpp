@@ -19,11 +19,6 @@ QString shown(const QString& text)
     return text;
 }
 
-QString shown(bool flag)
-{
-    return flag ? text("true") : text("false");
-}
-
 QString shown(AspAnnexMode annex)
 {
     return QString::number(annex);

@@ -27,7 +27,6 @@ QString shown(const AspWanVlanSettings& record);
 QString shown(const AspPvcSettings& record);
 QString shown(const AspDslStatus& record);
 QString shown(const QString& text);
-QString shown(bool flag);
 QString shown(AspAnnexMode annex);
 QString shown(AspRfc2684Encapsulation encapsulation);
 

@@ -11,20 +11,26 @@
 namespace quorvel::test
 {
 
-/// The Cpe that the builder makes for a gateway of given parameters, without recognition and with
-/// a session stored already: "SID=1". Parameters by name, without their common beginning:
-/// {"XML_VERSION", "1.0.1"}. General settings are always there.
-boost::shared_ptr<Cpe> builtCpe(
-    const QString& address, std::initializer_list<std::pair<const char*, const char*>> parameters);
+/// Parameters by name, without their common beginning: {"XML_VERSION", "1.0.1"}.
+using Parameters = std::initializer_list<std::pair<const char*, const char*>>;
+
+/// What recognition finds on a gateway with dialect 1.0.1 and all functions of the newest kind, but
+/// for radios, which it has of both generations.
+ParamMap newestParameters();
+
+/// The Cpe that the builder makes for what recognition has found, with a session stored already:
+/// "SID=1".
+boost::shared_ptr<Cpe> builtCpe(const QString& address, const ParamMap& found);
+/// The same for named parameters; general settings are always there.
+boost::shared_ptr<Cpe> builtCpe(const QString& address, Parameters parameters);
 
 /// A scripted gateway and the Cpe that is built for it. Its log lines are captured.
 class BuiltGateway : public testing::Test
 {
 protected:
-    void build(std::initializer_list<std::pair<const char*, const char*>> parameters);
+    void build(Parameters parameters);
 
-    /// A gateway with dialect 1.0.1 and all functions of the newest kind, but for radios, which it
-    /// has of both generations.
+    /// A gateway with newestParameters.
     void buildNewest();
 
     LogCapture log;

@@ -16,6 +16,11 @@ inline QString text(const char* literal)
     return QString::fromUtf8(literal);
 }
 
+inline QString shown(bool flag)
+{
+    return flag ? QStringLiteral("true") : QStringLiteral("false");
+}
+
 /// A map as lines "key=value", in the order of the keys.
 inline QStringList entries(const ParamMap& map)
 {

@@ -19,14 +19,9 @@ class UsbHostSilence : public FacadeFailure<Facade>
 {
 };
 
-QString word(bool flag)
-{
-    return flag ? text("true") : text("false");
-}
-
-const Operation write{"setUsbHostAdvancedSettings",
-                      [](Facade& f, Error& e) { return word(f.setUsbHostAdvancedSettings({}, e)); },
-                      "false"};
+const Operation write{
+    "setUsbHostAdvancedSettings",
+    [](Facade& f, Error& e) { return shown(f.setUsbHostAdvancedSettings({}, e)); }, "false"};
 
 const std::vector<Operation> others{
     {"getUsbHostDevices",
@@ -39,11 +34,11 @@ const std::vector<Operation> others{
          bool printer = true;
          bool disk = true;
          f.getUsbStatus(printer, disk, e);
-         return word(printer) + QLatin1Char(' ') + word(disk);
+         return shown(printer) + QLatin1Char(' ') + shown(disk);
      },
      "false false"},
-    {"diskMount", [](Facade& f, Error& e) { return word(f.diskMount(text("3"), e)); }, "false"},
-    {"diskUnmount", [](Facade& f, Error& e) { return word(f.diskUnmount(text("3"), e)); },
+    {"diskMount", [](Facade& f, Error& e) { return shown(f.diskMount(text("3"), e)); }, "false"},
+    {"diskUnmount", [](Facade& f, Error& e) { return shown(f.diskUnmount(text("3"), e)); },
      "false"}};
 
 std::vector<Operation> all()

@@ -12,11 +12,6 @@ using Error = AspWebAppErrorCodes;
 using Operation = FailingOperation<Facade>;
 using VoiceFailure = FacadeFailure<Facade>;
 
-QString word(bool flag)
-{
-    return flag ? text("true") : text("false");
-}
-
 AspVoipAccount changedLine()
 {
     AspVoipAccount account;
@@ -30,13 +25,15 @@ const Operation operations[] = {
      [](Facade& f, Error& e) { return shown(f.getVoipAccounts(e)).join(QLatin1Char('\n')); },
      "false", 2},
     {"setVoipSettings",
-     [](Facade& f, Error& e) { return word(f.setVoipSettings(text("voice-0"), changedLine(), e)); },
+     [](Facade& f, Error& e) {
+         return shown(f.setVoipSettings(text("voice-0"), changedLine(), e));
+     },
      "false"},
     {"getGainSettings", [](Facade& f, Error& e) { return shown(f.getGainSettings(e)); },
      "||0||||||||||false|false|false"},
     {"setGainSettings",
      [](Facade& f, Error& e) {
-         return word(f.setGainSettings(text("voice-0"), {changedLine()}, e));
+         return shown(f.setGainSettings(text("voice-0"), {changedLine()}, e));
      },
      "false"},
     {"getVoipCallHistory",

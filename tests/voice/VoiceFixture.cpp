@@ -5,16 +5,6 @@
 namespace quorvel::test
 {
 
-namespace
-{
-
-QString word(bool flag)
-{
-    return flag ? text("true") : text("false");
-}
-
-} // namespace
-
 QString shown(const AspVoipAccount& account)
 {
     // Taken apart by position: the order of the fields is part of the record.
@@ -33,9 +23,9 @@ QString shown(const AspVoipAccount& account)
                        authPassword,
                        transmitGain,
                        receiveGain,
-                       word(gainTag),
-                       word(changed),
-                       word(enabled)}
+                       shown(gainTag),
+                       shown(changed),
+                       shown(enabled)}
         .join(QLatin1Char('|'));
 }
 
@@ -55,7 +45,7 @@ QString shown(const AspVoipCallHistory& call)
 QStringList shown(const AspVoipSettings& settings)
 {
     const auto& [accounts, enabled] = settings;
-    QStringList texts{word(enabled)};
+    QStringList texts{shown(enabled)};
     for (const AspVoipAccount& account : accounts)
         texts.append(shown(account));
     return texts;

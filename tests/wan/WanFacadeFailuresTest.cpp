@@ -30,11 +30,6 @@ void PrintTo(const Operation& operation, std::ostream* out)
     *out << operation.name;
 }
 
-QString word(bool value)
-{
-    return value ? text("true") : text("false");
-}
-
 QString list(const QList<QString>& values)
 {
     return QStringList(values).join(QLatin1Char(' '));
@@ -47,7 +42,7 @@ const QString noStatus =
 const QString wan = text("wan-3");
 
 const Operation has3GSupport{
-    "has3GSupport", [](Facade& f, Error& e) { return word(f.has3GSupport(e)); }, "false", {}};
+    "has3GSupport", [](Facade& f, Error& e) { return shown(f.has3GSupport(e)); }, "false", {}};
 
 const std::vector<Operation> wanOperations{
     {"getDefaultWan",
@@ -89,7 +84,7 @@ const std::vector<Operation> wanOperations{
      [](Facade& f, Error& e) {
          QList<QString> dsl{text("a")};
          QList<QString> eth{text("b")};
-         return word(f.getWanList(dsl, eth, e)) + list(dsl) + list(eth);
+         return shown(f.getWanList(dsl, eth, e)) + list(dsl) + list(eth);
      },
      "falseab",
      {text("ERROR AspWanSettingsFacade::getWanList2 -> Failed to get WAN list!")}},
@@ -103,7 +98,7 @@ const std::vector<Operation> wanOperations{
      {text("ERROR AspWanSettingsFacade::addEntity-> Failed to create entity -> pvc")}},
     // Its look-up of the entity fails, and that isn't reported.
     {"deleteEntity",
-     [](Facade& f, Error& e) { return word(f.deleteEntity(wan, text("pvc"), e)); },
+     [](Facade& f, Error& e) { return shown(f.deleteEntity(wan, text("pvc"), e)); },
      "false",
      {},
      0},
@@ -115,13 +110,13 @@ const std::vector<Operation> wanOperations{
      "length 1 code 0",
      {}},
     {"deleteIface",
-     [](Facade& f, Error& e) { return word(f.deleteIface(wan, text("eth-2"), e)); },
+     [](Facade& f, Error& e) { return shown(f.deleteIface(wan, text("eth-2"), e)); },
      "false",
      {}},
-    {"enableWan", [](Facade& f, Error& e) { return word(f.enableWan(wan, e)); }, "false", {}},
-    {"disableWan", [](Facade& f, Error& e) { return word(f.disableWan(wan, e)); }, "false", {}},
+    {"enableWan", [](Facade& f, Error& e) { return shown(f.enableWan(wan, e)); }, "false", {}},
+    {"disableWan", [](Facade& f, Error& e) { return shown(f.disableWan(wan, e)); }, "false", {}},
     {"switchConnectionType",
-     [](Facade& f, Error& e) { return word(f.switchConnectionType({wan}, {}, wan, e)); },
+     [](Facade& f, Error& e) { return shown(f.switchConnectionType({wan}, {}, wan, e)); },
      "false",
      {text("ERROR AspWanSettingsFacade::switchConnectionType -> Failed to switch wan connection "
            "type!")}},
@@ -144,7 +139,7 @@ const std::vector<Operation> wanOperations{
      {},
      0},
     {"set3GSettings",
-     [](Facade& f, Error& e) { return word(f.set3GSettings(wan, text("serial-0"), {}, e)); },
+     [](Facade& f, Error& e) { return shown(f.set3GSettings(wan, text("serial-0"), {}, e)); },
      "false",
      {}}};
 

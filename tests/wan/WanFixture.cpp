@@ -8,11 +8,6 @@ const QByteArray notFound = "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n
 namespace
 {
 
-QString shown(bool flag)
-{
-    return flag ? text("true") : text("false");
-}
-
 QString shown(const QList<QString>& texts)
 {
     return QStringList(texts).join(QLatin1Char(' '));

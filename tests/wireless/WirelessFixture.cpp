@@ -42,11 +42,6 @@ QString shown(const QList<AspWirelessMeshInst>& links)
     return shown(texts);
 }
 
-QString shown(bool flag)
-{
-    return text(flag ? "true" : "false");
-}
-
 QString shown(const QStringList& texts)
 {
     return texts.join(QLatin1Char(','));

@@ -17,7 +17,6 @@ namespace quorvel::test
 QString shown(const AspWirelessSettings& settings);
 /// A link as "address on" or "address off", several of them with commas between.
 QString shown(const QList<AspWirelessMeshInst>& links);
-QString shown(bool flag);
 /// Texts with commas between.
 QString shown(const QStringList& texts);
 
