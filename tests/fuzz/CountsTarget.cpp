@@ -70,6 +70,13 @@ int narrowNumberIn(const QString& text)
 
 // Call history.
 
+/// No more than 20000 are believed, and what is too small for a number is none.
+int claimedCalls(const QString& claim)
+{
+    const long long number = numberIn(claim, 0);
+    return number < INT_MIN ? 0 : int(std::min(number, 20000LL));
+}
+
 const QString voice = QStringLiteral("voice-0");
 
 QString pageOf(const QString& request)
@@ -122,7 +129,7 @@ void checkHistory(const std::vector<Entries>& records)
         return;
     }
     const QString claim = read[0].entries.value(QStringLiteral("voice-0.numcallentries:"));
-    const int count = int(std::clamp(numberIn(claim, 0), -40000LL, 20000LL));
+    const int count = claimedCalls(claim);
     const int pages = count <= -20 ? 0 : count / 20 + 1;
     require(requests.size() == pages + 1, "a page is asked for every twenty calls");
     int next = 0;
