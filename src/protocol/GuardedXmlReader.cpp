@@ -3,6 +3,26 @@
 namespace quorvel
 {
 
+namespace
+{
+
+/// The level of the entries: below the root and an object.
+const int entryLevel = 3;
+
+/// Behind any prefix, as the tree finds it.
+QXmlAttributes versionIn(const QXmlAttributes& attributes)
+{
+    QXmlAttributes version;
+    for (int i = 0; i < attributes.count(); ++i) {
+        if (attributes.localName(i) == QLatin1String("version"))
+            version.append(attributes.qName(i), attributes.uri(i), attributes.localName(i),
+                           attributes.value(i));
+    }
+    return version;
+}
+
+} // namespace
+
 GuardedXmlReader::GuardedXmlReader()
 {
     QXmlSimpleReader::setDeclHandler(&entityGuard);
@@ -11,8 +31,8 @@ GuardedXmlReader::GuardedXmlReader()
 
 void GuardedXmlReader::setContentHandler(QXmlContentHandler* handler)
 {
-    depthGuard.guarded = handler;
-    QXmlSimpleReader::setContentHandler(&depthGuard);
+    contentGuard.guarded = handler;
+    QXmlSimpleReader::setContentHandler(&contentGuard);
 }
 
 void GuardedXmlReader::setDeclHandler(QXmlDeclHandler*)
@@ -22,69 +42,93 @@ void GuardedXmlReader::setDeclHandler(QXmlDeclHandler*)
 
 void GuardedXmlReader::setDTDHandler(QXmlDTDHandler*) {}
 
-bool GuardedXmlReader::DepthGuard::startElement(const QString& namespaceUri,
-                                                const QString& localName, const QString& qName,
-                                                const QXmlAttributes& attributes)
+void GuardedXmlReader::setLexicalHandler(QXmlLexicalHandler*)
 {
-    return ++depth <= deepestLevel &&
-           guarded->startElement(namespaceUri, localName, qName, attributes);
+    // Without one, comments stay out of the tree and marked character data is plain text.
 }
 
-bool GuardedXmlReader::DepthGuard::endElement(const QString& namespaceUri, const QString& localName,
-                                              const QString& qName)
+bool GuardedXmlReader::ContentGuard::startElement(const QString& namespaceUri,
+                                                  const QString& localName, const QString& qName,
+                                                  const QXmlAttributes& attributes)
 {
-    --depth;
+    prefixes += ownPrefixes;
+    prefixesPerLevel.append(ownPrefixes);
+    ownPrefixes = 0;
+    if (++depth > deepestLevel || prefixes > mostPrefixes)
+        return false;
+    if (depth > entryLevel)
+        return !localName.isEmpty(); // or the tree would refuse it
+    return ++nodes <= mostNodes &&
+           guarded->startElement(namespaceUri, localName, qName,
+                                 depth == 1 ? versionIn(attributes) : QXmlAttributes());
+}
+
+bool GuardedXmlReader::ContentGuard::endElement(const QString& namespaceUri,
+                                                const QString& localName, const QString& qName)
+{
+    prefixes -= prefixesPerLevel.takeLast();
+    if (depth-- > entryLevel)
+        return true;
+    if (!entryText.isEmpty()) {
+        ++nodes;
+        guarded->characters(entryText);
+        entryText.clear();
+    }
     return guarded->endElement(namespaceUri, localName, qName);
 }
 
-void GuardedXmlReader::DepthGuard::setDocumentLocator(QXmlLocator* locator)
+bool GuardedXmlReader::ContentGuard::characters(const QString& text)
+{
+    if (depth >= entryLevel)
+        entryText += text;
+    return depth > 0;
+}
+
+void GuardedXmlReader::ContentGuard::setDocumentLocator(QXmlLocator* locator)
 {
     guarded->setDocumentLocator(locator);
 }
 
-bool GuardedXmlReader::DepthGuard::startDocument()
+bool GuardedXmlReader::ContentGuard::startDocument()
 {
     return guarded->startDocument();
 }
 
-bool GuardedXmlReader::DepthGuard::endDocument()
+bool GuardedXmlReader::ContentGuard::endDocument()
 {
     return guarded->endDocument();
 }
 
-bool GuardedXmlReader::DepthGuard::startPrefixMapping(const QString& prefix, const QString& uri)
+bool GuardedXmlReader::ContentGuard::startPrefixMapping(const QString&, const QString&)
 {
-    return guarded->startPrefixMapping(prefix, uri);
+    ++ownPrefixes;
+    return true;
 }
 
-bool GuardedXmlReader::DepthGuard::endPrefixMapping(const QString& prefix)
+bool GuardedXmlReader::ContentGuard::endPrefixMapping(const QString&)
 {
-    return guarded->endPrefixMapping(prefix);
+    // Not told for each that starts, so the levels count for themselves.
+    return true;
 }
 
-bool GuardedXmlReader::DepthGuard::characters(const QString& text)
+bool GuardedXmlReader::ContentGuard::ignorableWhitespace(const QString&)
 {
-    return guarded->characters(text);
+    return true;
 }
 
-bool GuardedXmlReader::DepthGuard::ignorableWhitespace(const QString& text)
+bool GuardedXmlReader::ContentGuard::processingInstruction(const QString&, const QString&)
 {
-    return guarded->ignorableWhitespace(text);
+    return true;
 }
 
-bool GuardedXmlReader::DepthGuard::processingInstruction(const QString& target, const QString& data)
+bool GuardedXmlReader::ContentGuard::skippedEntity(const QString&)
 {
-    return guarded->processingInstruction(target, data);
+    return true;
 }
 
-bool GuardedXmlReader::DepthGuard::skippedEntity(const QString& name)
+QString GuardedXmlReader::ContentGuard::errorString() const
 {
-    return guarded->skippedEntity(name);
-}
-
-QString GuardedXmlReader::DepthGuard::errorString() const
-{
-    return depth > deepestLevel ? QStringLiteral("nested too deeply") : guarded->errorString();
+    return QStringLiteral("too large or nested too deeply");
 }
 
 bool GuardedXmlReader::EntityGuard::attributeDecl(const QString&, const QString&, const QString&,
@@ -128,6 +172,7 @@ QChar GuardedXmlSource::next()
     if (markupPosition == 0) {
         inElementDeclaration = false;
         groups = 0;
+        equalsSigns = 0;
     } else if (markupPosition == 1) {
         inElementDeclaration = character == QLatin1Char('!');
     } else if (markupPosition == 2) {
@@ -136,9 +181,11 @@ QChar GuardedXmlSource::next()
         ++groups;
     } else if (character == QLatin1Char(')')) {
         --groups;
+    } else if (character == QLatin1Char('=')) {
+        ++equalsSigns;
     }
     const bool tooDeep = inElementDeclaration && groups > GuardedXmlReader::deepestLevel;
-    return tooDeep ? QChar(EndOfDocument) : character;
+    return tooDeep || equalsSigns > mostEqualsSigns ? QChar(EndOfDocument) : character;
 }
 
 } // namespace quorvel

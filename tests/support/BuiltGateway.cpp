@@ -6,22 +6,27 @@
 namespace quorvel::test
 {
 
-void BuiltGateway::build(std::initializer_list<std::pair<const char*, const char*>> parameters)
+boost::shared_ptr<Cpe> builtCpe(
+    const QString& address, std::initializer_list<std::pair<const char*, const char*>> parameters)
 {
     ParamMap found{{QStringLiteral("CPE_PARAM_GENERAL_SETTINGS_VERSION"), QStringLiteral("1")}};
     for (const auto& [name, version] : parameters)
         found.insert(QLatin1String("CPE_PARAM_") + QLatin1String(name), QLatin1String(version));
     TelvoraCpeBuilderAspV1 builder;
-    const AuthenticationInfo info{QStringLiteral("admin"), QStringLiteral("secret"),
-                                  gateway.address()};
-    ASSERT_TRUE(builder.buildCpe(found));
-    ASSERT_TRUE(builder.buildSettingsImplementors());
-    ASSERT_TRUE(builder.buildRequestExecutor());
-    ASSERT_TRUE(builder.buildRequestFormatter());
-    ASSERT_TRUE(builder.buildResponseParser());
-    ASSERT_TRUE(builder.buildAuthenticator(info));
-    cpe = builder.getCpe();
-    AspCpeSessionStorage::getInstance()->setSession(gateway.address(), QStringLiteral("SID=1"));
+    const AuthenticationInfo info{QStringLiteral("admin"), QStringLiteral("secret"), address};
+    EXPECT_TRUE(builder.buildCpe(found));
+    EXPECT_TRUE(builder.buildSettingsImplementors());
+    EXPECT_TRUE(builder.buildRequestExecutor());
+    EXPECT_TRUE(builder.buildRequestFormatter());
+    EXPECT_TRUE(builder.buildResponseParser());
+    EXPECT_TRUE(builder.buildAuthenticator(info));
+    AspCpeSessionStorage::getInstance()->setSession(address, QStringLiteral("SID=1"));
+    return builder.getCpe();
+}
+
+void BuiltGateway::build(std::initializer_list<std::pair<const char*, const char*>> parameters)
+{
+    cpe = builtCpe(gateway.address(), parameters);
 }
 
 void BuiltGateway::buildNewest()

@@ -91,12 +91,9 @@ bool GatewayConnection::pause(int milliseconds) const
 
 void GatewayConnection::waitForPeer() const
 {
-    char rest[4096];
-    do {
-        pollfd peer{socket, POLLIN, 0};
-        if (::poll(&peer, 1, 0) > 0 && ::recv(socket, rest, sizeof rest, 0) <= 0)
-            return;
-    } while (pause(2));
+    pollfd peer{socket, POLLRDHUP, 0};
+    while (::poll(&peer, 1, 0) == 0 && pause(2)) {
+    }
 }
 
 void GatewayConnection::waitForRelease() const

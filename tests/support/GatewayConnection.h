@@ -36,7 +36,7 @@ public:
     bool send(const QByteArray& bytes);
     /// Lets time pass between two bytes. False when the test is over or the gateway released.
     bool pause(int milliseconds) const;
-    /// Says nothing until the peer goes away, the gateway is released or the test ends.
+    /// Reads and says nothing until the peer goes away, the gateway is released or the test ends.
     void waitForPeer() const;
     /// Says nothing until the gateway is released or the test ends.
     void waitForRelease() const;
