@@ -70,7 +70,7 @@ QNetworkRequest requestFor(const ParamMap& params)
 bool isWhole(const NetworkExchange& exchange)
 {
     bool isAnnounced = false;
-    const int length = exchange.reply().rawHeader("Content-Length").toInt(&isAnnounced);
+    const qint64 length = exchange.reply().rawHeader("Content-Length").toLongLong(&isAnnounced);
     return !isAnnounced || length < 0 || length == exchange.body().size();
 }
 
@@ -96,9 +96,10 @@ int statusOf(NetworkExchange::Ending ending, const NetworkExchange& exchange)
 ParamMap contentOf(const NetworkExchange& exchange)
 {
     ParamMap content;
-    for (const QByteArray& rawName : exchange.reply().rawHeaderList()) {
+    // In pairs: looking each name up takes minutes where there are many.
+    for (const auto& [rawName, rawValue] : exchange.reply().rawHeaderPairs()) {
         const QString name = QString::fromUtf8(rawName);
-        QString value = QString::fromUtf8(exchange.reply().rawHeader(rawName));
+        QString value = QString::fromUtf8(rawValue);
         if (name.startsWith(setCookie)) {
             value = lastLine(value);
             value.remove(QLatin1Char(';')).remove(QLatin1String("path=/"));

@@ -12,6 +12,8 @@ namespace quorvel
 namespace
 {
 
+const int readAhead = 256 * 1024;
+
 bool endsWithConnection(const QNetworkReply& reply)
 {
     const QVariant status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute);
@@ -94,6 +96,10 @@ QNetworkReply::NetworkError NetworkExchange::error() const
 NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limitMs)
 {
     pending = reply;
+    // Else Qt's thread reads ahead without bound while ours is busy. Queued, because Qt forgets it
+    // if it comes before that thread has the request, which is queued too.
+    QMetaObject::invokeMethod(
+        reply, [reply] { reply->setReadBufferSize(readAhead); }, Qt::QueuedConnection);
     QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     QObject::connect(reply, &QNetworkReply::readyRead, &loop, [this] { receive(); });
     if (abortSignal)

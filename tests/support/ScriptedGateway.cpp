@@ -219,7 +219,7 @@ void ScriptedGateway::play(int socket)
     if (step.behaviour)
         step.behaviour(request, connection);
     if (step.ending == Ending::Hold)
-        connection.waitForRelease();
+        connection.waitForPeer();
     if (step.ending == Ending::Close)
         connection.closeGently();
 }

@@ -45,14 +45,15 @@ public:
     ScriptedGateway& sendRaw(const QByteArray& bytes);
     /// Reads the request, sends these bytes and resets the connection.
     ScriptedGateway& sendAndReset(const QByteArray& bytes);
-    /// Reads the request, sends these bytes and then nothing more until release or the test's end.
+    /// Reads the request, sends these bytes and then nothing more until the peer goes away, release
+    /// or the test's end.
     ScriptedGateway& sendAndHold(const QByteArray& bytes);
     /// Closes the connection unread.
     ScriptedGateway& closeOnAccept();
 
     /// Resets the connection unread.
     ScriptedGateway& resetOnAccept();
-    /// Reads nothing and sends nothing until release or the test's end.
+    /// Reads nothing and sends nothing until the peer goes away, release or the test's end.
     ScriptedGateway& holdUnread();
     /// Reads the request and lets `behaviour` answer it, then closes.
     ScriptedGateway& answer(Behaviour behaviour);
