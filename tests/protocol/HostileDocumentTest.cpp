@@ -121,7 +121,8 @@ INSTANTIATE_TEST_SUITE_P(IllFormed, RefusedDocument, testing::ValuesIn(illFormed
                          DocumentName());
 INSTANTIATE_TEST_SUITE_P(WithEntities, RefusedDocument, testing::ValuesIn(entityDocuments()),
                          DocumentName());
-INSTANTIATE_TEST_SUITE_P(Excessive, RefusedDocument, testing::ValuesIn(excessiveDocuments()),
+INSTANTIATE_TEST_SUITE_P(Deep, RefusedDocument, testing::ValuesIn(deepDocuments()), DocumentName());
+INSTANTIATE_TEST_SUITE_P(Crowded, RefusedDocument, testing::ValuesIn(crowdedDocuments()),
                          DocumentName());
 
 TEST_P(ReadDocument, GivesItsEntries)

@@ -36,8 +36,10 @@ struct DocumentName {
 
 std::vector<HostileDocument> illFormedDocuments();
 std::vector<HostileDocument> entityDocuments();
-/// Refused for their depth, their number of elements and the like.
-std::vector<HostileDocument> excessiveDocuments();
+/// Nested too deeply.
+std::vector<HostileDocument> deepDocuments();
+/// Too many of something.
+std::vector<HostileDocument> crowdedDocuments();
 /// Odd or large, but to be read.
 std::vector<HostileDocument> oddDocuments();
 
