@@ -5,6 +5,7 @@
 
 #include <QMutex>
 #include <QString>
+#include <atomic>
 #include <boost/shared_ptr.hpp>
 
 namespace quorvel
@@ -58,7 +59,8 @@ public:
     /// The address as the host gave it.
     QString getCpeAddress() const;
 
-    /// Ends the wait of the exchange that is under way. Takes no lock; callable from any thread.
+    /// Ends the wait of the exchange that is under way, and with it the operation, also between two
+    /// exchanges of one executeRequest. Takes no lock; callable from any thread.
     void abortRequests();
 
 protected:
@@ -81,7 +83,9 @@ private:
 
     bool ensureSession(const QString& address, ParamMap& result);
     Outcome attempt(const QString& address, const QString& request, ParamMap& result,
-                    bool expectNoReply);
+                    bool expectNoReply, int abortsBefore);
+    Outcome exchange(const QString& address, const QString& request, ParamMap& result,
+                     bool expectNoReply);
     Outcome takeReply(const QString& reply, ParamMap& result, bool expectNoReply);
 
     boost::shared_ptr<ResponseParser> parser;
@@ -92,6 +96,9 @@ private:
 protected:
     /// Held across a whole operation, exchange included. Not recursive.
     QMutex mutex;
+
+private:
+    std::atomic<int> aborts{0};
 };
 
 } // namespace quorvel

@@ -27,9 +27,10 @@ bool CpeSettingsImplementor::executeRequest(const QString& request, ParamMap& re
 {
     // No bound on the repetition: it ends when the gateway takes a session or refuses a login. A
     // loop, because the stack must not be what bounds it.
+    const int abortsBefore = aborts;
     for (;;) {
         const QString address = getCpeAddress();
-        const Outcome outcome = attempt(address, request, result, expectNoReply);
+        const Outcome outcome = attempt(address, request, result, expectNoReply, abortsBefore);
         if (outcome != Outcome::SessionExpired)
             return outcome == Outcome::Success;
         result.clear();
@@ -49,10 +50,24 @@ bool CpeSettingsImplementor::ensureSession(const QString& address, ParamMap& res
 CpeSettingsImplementor::Outcome CpeSettingsImplementor::attempt(const QString& address,
                                                                 const QString& request,
                                                                 ParamMap& result,
-                                                                bool expectNoReply)
+                                                                bool expectNoReply,
+                                                                int abortsBefore)
 {
-    if (!ensureSession(address, result))
+    // An abort that comes between two exchanges finds none to end, and yet is meant for us.
+    const auto isAborted = [&] { return aborts != abortsBefore; };
+    if (!isAborted() && !ensureSession(address, result))
         return Outcome::Failure;
+    if (!isAborted())
+        return exchange(address, request, result, expectNoReply);
+    reportTransportFailure(result, CpeLoginRequestFailed, AspWebAppRequestFailed);
+    return Outcome::Failure;
+}
+
+CpeSettingsImplementor::Outcome CpeSettingsImplementor::exchange(const QString& address,
+                                                                 const QString& request,
+                                                                 ParamMap& result,
+                                                                 bool expectNoReply)
+{
     const ParamMap params{
         {HTTP_PARAM_METHOD, HTTP_PARAM_METHOD_POST},
         {HTTP_PARAM_URL, address},
@@ -98,6 +113,7 @@ QString CpeSettingsImplementor::getCpeAddress() const
 
 void CpeSettingsImplementor::abortRequests()
 {
+    ++aborts;
     if (executor)
         executor->abortPendingRequests();
 }

@@ -191,6 +191,42 @@ TEST_F(RequestCycleTest, TellsATransportFailureBehindASuccessfulLogin)
     EXPECT_EQ(entries(result), lines({"AUTH_PARAM_LOGINRESULT=3", "webapp.error=29"}));
 }
 
+TEST_F(RequestCycleTest, SendsNothingMoreWhenItIsAbortedBetweenTwoExchanges)
+{
+    storeSession("");
+    EXPECT_CALL(*authenticator, login(_)).WillOnce([this](auto) {
+        implementor.abortRequests();
+        storeSession("SID=2");
+        return 0;
+    });
+    EXPECT_CALL(*transport, abortPendingRequests());
+    EXPECT_CALL(*transport, execute(_, _)).Times(0);
+    EXPECT_FALSE(execute());
+    EXPECT_EQ(entries(result), lines({"AUTH_PARAM_LOGINRESULT=3", "webapp.error=29"}));
+}
+
+TEST_F(RequestCycleTest, LogsInNoMoreWhenItIsAbortedBehindAnExpiredSession)
+{
+    EXPECT_CALL(*transport, abortPendingRequests());
+    expectRequest().WillOnce([this](const ParamMap&, ParamMap& reply) {
+        implementor.abortRequests();
+        reply = body(expired);
+        return 0;
+    });
+    EXPECT_CALL(*authenticator, login(_)).Times(0);
+    EXPECT_FALSE(execute());
+    EXPECT_EQ(entries(result), lines({"AUTH_PARAM_LOGINRESULT=3", "webapp.error=29"}));
+}
+
+TEST_F(RequestCycleTest, IsNotTouchedByAnAbortBeforeIt)
+{
+    EXPECT_CALL(*transport, abortPendingRequests()).Times(2);
+    implementor.abortRequests();
+    implementor.abortRequests();
+    expectRequest().WillOnce(replying(body(goodReply)));
+    EXPECT_TRUE(execute());
+}
+
 TEST_F(RequestCycleTest, TellsTheAddressAsTheHostGaveIt)
 {
     authenticator->setCpeAddress(text("http://192.0.2.1"));
