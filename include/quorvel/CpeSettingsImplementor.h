@@ -84,8 +84,6 @@ private:
     bool ensureSession(const QString& address, ParamMap& result);
     Outcome attempt(const QString& address, const QString& request, ParamMap& result,
                     bool expectNoReply, int abortsBefore);
-    Outcome exchange(const QString& address, const QString& request, ParamMap& result,
-                     bool expectNoReply);
     Outcome takeReply(const QString& reply, ParamMap& result, bool expectNoReply);
 
     boost::shared_ptr<ResponseParser> parser;

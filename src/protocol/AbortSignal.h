@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <atomic>
 
 namespace quorvel
 {
@@ -11,8 +12,21 @@ class AbortSignal : public QObject
 {
     Q_OBJECT
 
+public:
+    void raise()
+    {
+        ++times;
+        Q_EMIT raised();
+    }
+
+    /// Tells an exchange that is about to connect the signal whether it has come too late for it.
+    int timesRaised() const { return times; }
+
 Q_SIGNALS:
     void raised();
+
+private:
+    std::atomic<int> times{0};
 };
 
 } // namespace quorvel

@@ -53,27 +53,19 @@ CpeSettingsImplementor::Outcome CpeSettingsImplementor::attempt(const QString& a
                                                                 bool expectNoReply,
                                                                 int abortsBefore)
 {
-    // An abort that comes between two exchanges finds none to end, and yet is meant for us.
-    const auto isAborted = [&] { return aborts != abortsBefore; };
-    if (!isAborted() && !ensureSession(address, result))
+    if (aborts == abortsBefore && !ensureSession(address, result))
         return Outcome::Failure;
-    if (!isAborted())
-        return exchange(address, request, result, expectNoReply);
-    reportTransportFailure(result, CpeLoginRequestFailed, AspWebAppRequestFailed);
-    return Outcome::Failure;
-}
-
-CpeSettingsImplementor::Outcome CpeSettingsImplementor::exchange(const QString& address,
-                                                                 const QString& request,
-                                                                 ParamMap& result,
-                                                                 bool expectNoReply)
-{
     const ParamMap params{
         {HTTP_PARAM_METHOD, HTTP_PARAM_METHOD_POST},
         {HTTP_PARAM_URL, address},
         {HTTP_PARAM_SESSION, AspCpeSessionStorage::getInstance()->getSession(address)},
         {HTTP_PARAM_PATH, QStringLiteral("/cgi-bin/webapp")},
         {HTTP_PARAM_DATA_TO_SEND, request}};
+    // An abort that comes between two exchanges finds none to end, and yet is meant for us.
+    if (aborts != abortsBefore) {
+        reportTransportFailure(result, CpeLoginRequestFailed, AspWebAppRequestFailed);
+        return Outcome::Failure;
+    }
     ParamMap transport;
     switch (executor->execute(params, transport)) {
     case RequestSucceeded:

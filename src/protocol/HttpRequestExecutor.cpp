@@ -152,7 +152,7 @@ int HttpRequestExecutor::exchange(const ParamMap& params, ParamMap& result)
 
 void HttpRequestExecutor::abortPendingRequests()
 {
-    Q_EMIT abortSignal.raised();
+    abortSignal.raise();
 }
 
 } // namespace quorvel

@@ -49,7 +49,8 @@ qint64 NetworkExchange::OneWayBody::writeData(const char*, qint64)
     return -1;
 }
 
-NetworkExchange::NetworkExchange(const AbortSignal* abortSignal) : abortSignal(abortSignal)
+NetworkExchange::NetworkExchange(const AbortSignal* abortSignal)
+    : abortSignal(abortSignal), abortsBefore(abortSignal ? abortSignal->timesRaised() : 0)
 {
     manager.setProxy(QNetworkProxy::NoProxy);
 }
@@ -111,7 +112,8 @@ NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limit
     timer.setInterval(limitMs);
     QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
     timer.start();
-    loop.exec();
+    if (!isAborted())
+        loop.exec();
 
     const bool timedOut = !timer.isActive();
     timer.stop();
@@ -124,6 +126,11 @@ NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limit
     if (timedOut)
         return Ending::TimedOut;
     return brokenOff || received.size() > largestBody ? Ending::BrokenOff : Ending::Finished;
+}
+
+bool NetworkExchange::isAborted() const
+{
+    return abortSignal && abortSignal->timesRaised() != abortsBefore;
 }
 
 void NetworkExchange::receive()

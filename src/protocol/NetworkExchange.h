@@ -30,7 +30,7 @@ public:
     /// A reply body of more bytes breaks the exchange off.
     static constexpr int largestBody = 4 * 1024 * 1024;
 
-    /// The exchange is broken off when `abortSignal` is raised; null for never.
+    /// The exchange is broken off when `abortSignal` is raised from now on; null for never.
     explicit NetworkExchange(const AbortSignal* abortSignal = nullptr);
 
     static QNetworkRequest request(const QUrl& url);
@@ -68,7 +68,10 @@ private:
     Ending waitFor(QNetworkReply* reply, int limitMs);
     void receive();
 
+    bool isAborted() const;
+
     const AbortSignal* abortSignal;
+    const int abortsBefore;
     QByteArray received;
     OneWayBody sent;
     QNetworkAccessManager manager;
