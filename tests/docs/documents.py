@@ -26,7 +26,7 @@ import sys
 import threading
 import time
 
-PATIENCE = 60  # seconds: only a failure takes that long
+PATIENCE = 120  # seconds: only a failure takes that long
 BUILDING = 1800
 PORT = re.compile(r"(127\.0\.0\.1:|control port )(\d+)")
 MARK = "--done-5f1c--"
