@@ -1,5 +1,7 @@
 #include "Options.h"
 
+#include "manual/Manual.h"
+
 #include <CLI/CLI.hpp>
 
 #include <climits>
@@ -44,6 +46,7 @@ void declare(CLI::App& app, Options& options)
                    "Write what was exchanged to this file at the end, secrets masked");
     app.add_flag("--list-scenarios", options.listScenarios, "List the scenarios and exit");
     app.set_version_flag("--version", "quorvel-gateway-sim " QUORVEL_VERSION);
+    manual::addManual(app);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "Failure.h"
 #include "Session.h"
 #include "commands/Commands.h"
+#include "manual/Manual.h"
 
 #include <CLI/CLI.hpp>
 #include <QCoreApplication>
@@ -82,6 +83,7 @@ int main(int argc, char** argv)
     app.fallthrough();
     app.parse_complete_callback([&session] { session.applyLogLevel(); });
     addCommands(app, session);
+    quorvel::manual::addManual(app);
     letCommandsLack(app);
     app.footer("Exit status: 0 success, 1 the gateway reported an error, 2 wrong usage, 3 login "
                "refused, 4 not reachable or timed out.");
