@@ -21,6 +21,13 @@ public:
         return result;
     }
 
+    Objects objectsOf(Cow<Objects> State::*copy) const
+    {
+        Objects objects;
+        gateway.readState([&](const State& state) { objects = (state.*copy).read(); });
+        return objects;
+    }
+
     Gateway gateway;
     Server server;
     std::string wantedAddress = "127.0.0.1";
@@ -110,11 +117,14 @@ std::string GatewaySimulator::storedValue(const std::string& instance, const std
     return d->valueOf(&State::stored, instance, key);
 }
 
+Objects GatewaySimulator::configuredObjects() const
+{
+    return d->objectsOf(&State::configuration);
+}
+
 Objects GatewaySimulator::storedObjects() const
 {
-    Objects objects;
-    d->gateway.readState([&objects](const State& state) { objects = state.stored.read(); });
-    return objects;
+    return d->objectsOf(&State::stored);
 }
 
 void GatewaySimulator::setValue(const std::string& instance, const std::string& key,

@@ -8,8 +8,8 @@ namespace
 
 using Asked = AskedGateway;
 
-/// A connection in which everything is set that any link type writes. `wan` is "wan-0" over DSL
-/// and "wan-1" over Ethernet, and has its entities under the same numbers.
+/// A connection in which everything is set that any link type writes. The entities that both WANs
+/// have bear the WAN's own number.
 AspAdslSettings connection(const char* linkType, const char* number)
 {
     AspAdslSettings settings;
@@ -99,7 +99,7 @@ AspUsbHostDevices sharing()
     return devices;
 }
 
-/// The operations that both generations of radios have.
+/// Writes one network as a batch writes several: first its query, then all of them.
 template <typename Facade>
 void writeQuery(Facade& radio, AspWebAppErrorCodes& error)
 {

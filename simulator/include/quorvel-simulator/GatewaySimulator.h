@@ -69,6 +69,8 @@ public:
     std::string configuredValue(const std::string& instance, const std::string& key) const;
     /// What a restart would bring back: the last save.
     std::string storedValue(const std::string& instance, const std::string& key) const;
+    /// The whole configuration, to compare before and after.
+    Objects configuredObjects() const;
     /// The whole stored copy, to compare before and after.
     Objects storedObjects() const;
 
