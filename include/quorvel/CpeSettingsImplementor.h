@@ -79,7 +79,7 @@ private:
 
     enum class Outcome { Success, Failure, SessionExpired };
 
-    bool ensureSession(const QString& address, ParamMap& result);
+    bool findSession(const QString& address, QString& session, ParamMap& result);
     Outcome attempt(const QString& address, const QString& request, ParamMap& result,
                     bool expectNoReply);
     Outcome takeReply(const QString& reply, ParamMap& result, bool expectNoReply);

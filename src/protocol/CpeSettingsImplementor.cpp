@@ -37,12 +37,15 @@ bool CpeSettingsImplementor::executeRequest(const QString& request, ParamMap& re
     }
 }
 
-bool CpeSettingsImplementor::ensureSession(const QString& address, ParamMap& result)
+bool CpeSettingsImplementor::findSession(const QString& address, QString& session, ParamMap& result)
 {
-    if (!AspCpeSessionStorage::getInstance()->getSession(address).isEmpty())
+    const auto storage = AspCpeSessionStorage::getInstance();
+    session = storage->getSession(address);
+    if (!session.isEmpty())
         return true;
     const int login = authenticator->login(executor);
     result.insert(AUTH_PARAM_LOGINRESULT, QString::number(login));
+    session = storage->getSession(address);
     return login == CpeLoginSuccess;
 }
 
@@ -51,14 +54,15 @@ CpeSettingsImplementor::Outcome CpeSettingsImplementor::attempt(const QString& a
                                                                 ParamMap& result,
                                                                 bool expectNoReply)
 {
-    if (!ensureSession(address, result))
+    // Looked up once: what was found may be gone by now, for others use the storage as well.
+    QString session;
+    if (!findSession(address, session, result))
         return Outcome::Failure;
-    const ParamMap params{
-        {HTTP_PARAM_METHOD, HTTP_PARAM_METHOD_POST},
-        {HTTP_PARAM_URL, address},
-        {HTTP_PARAM_SESSION, AspCpeSessionStorage::getInstance()->getSession(address)},
-        {HTTP_PARAM_PATH, QStringLiteral("/cgi-bin/webapp")},
-        {HTTP_PARAM_DATA_TO_SEND, request}};
+    const ParamMap params{{HTTP_PARAM_METHOD, HTTP_PARAM_METHOD_POST},
+                          {HTTP_PARAM_URL, address},
+                          {HTTP_PARAM_SESSION, session},
+                          {HTTP_PARAM_PATH, QStringLiteral("/cgi-bin/webapp")},
+                          {HTTP_PARAM_DATA_TO_SEND, request}};
     ParamMap transport;
     switch (executor->execute(params, transport)) {
     case RequestSucceeded:
