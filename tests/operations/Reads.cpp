@@ -221,14 +221,12 @@ OperationsOfClass voiceReads()
     using F = AspVoipSettingsFacade;
     AspVoipCallHistoryFilter allCalls;
     allCalls.callType = 3;
-    const auto follow = [allCalls](Asked& a) {
-        a.voice.followVoipCallHistory(allCalls, AspVoipCallHistoryProgress(), a.error);
-    };
     return {"AspVoipSettingsFacade",
             {{"getVoipAccounts", calling(&Asked::voice, &F::getVoipAccounts)},
              {"getGainSettings", calling(&Asked::voice, &F::getGainSettings)},
              {"getVoipCallHistory", calling(&Asked::voice, &F::getVoipCallHistory, allCalls)},
-             {"followVoipCallHistory", follow}}};
+             {"followVoipCallHistory", calling(&Asked::voice, &F::followVoipCallHistory, allCalls,
+                                               AspVoipCallHistoryProgress())}}};
 }
 
 OperationsOfClass usbHostReads()
