@@ -36,8 +36,18 @@ public:
     Asker(const Fault& fault, const QString& address)
         : fault(fault), cpe(builtCpe(address, {{"XML_VERSION", "1.0.1"}}))
     {
-        cpe->getGeneralImplementor()->setRequestExecutor(
-            boost::make_shared<HttpRequestExecutor>(fault.limitMs));
+    }
+
+    /// With the row's own limit if it has one. A good exchange on a busy machine may take longer.
+    Answer askUnderFault() const
+    {
+        const auto general = cpe->getGeneralImplementor();
+        const auto usual = general->getRequestExecutor();
+        if (fault.limitMs != HttpRequestExecutor::defaultLimitMs)
+            general->setRequestExecutor(boost::make_shared<HttpRequestExecutor>(fault.limitMs));
+        const Answer answer = ask();
+        general->setRequestExecutor(usual);
+        return answer;
     }
 
     Answer ask() const
@@ -89,7 +99,7 @@ int expectFaultyExchange(const Fault& fault, Opponent& opponent, const Asker& as
     const int requests = opponent.requests();
     const int connections = opponent.connections();
     opponent.misbehave();
-    const Answer answer = asker.ask();
+    const Answer answer = asker.askUnderFault();
     EXPECT_THAT(fault.errors, testing::Contains(answer.error));
     EXPECT_EQ(answer.version, answer.error == 0 ? text("1.2") : QString());
     EXPECT_GE(opponent.requests() - requests, fault.fewestRequests);

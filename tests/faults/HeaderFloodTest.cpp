@@ -67,8 +67,7 @@ TEST_P(HeaderFloods, End)
 {
     Opponent opponent(GetParam().way);
     const auto cpe = builtCpe(opponent.address(), {{"XML_VERSION", "1.0.1"}});
-    cpe->getGeneralImplementor()->setRequestExecutor(
-        boost::make_shared<HttpRequestExecutor>(GetParam().limitMs));
+    const auto usual = cpe->getGeneralImplementor()->getRequestExecutor();
     AspGeneralSettingsFacade facade(cpe);
     AspWebAppErrorCodes error = AspWebAppNoError;
     opponent.behave();
@@ -77,6 +76,8 @@ TEST_P(HeaderFloods, End)
     const Resources before;
     const MemoryWatch memory;
     opponent.misbehave();
+    cpe->getGeneralImplementor()->setRequestExecutor(
+        boost::make_shared<HttpRequestExecutor>(GetParam().limitMs));
     QElapsedTimer clock;
     clock.start();
     facade.getFirmwareVersion(error);
@@ -86,6 +87,7 @@ TEST_P(HeaderFloods, End)
     EXPECT_EQ(opponent.requests(), 2);
 
     opponent.behave();
+    cpe->getGeneralImplementor()->setRequestExecutor(usual);
     EXPECT_EQ(facade.getFirmwareVersion(error), text("1.2"));
     // Qt's thread goes on until the gateway stops.
     opponent.release();

@@ -31,6 +31,7 @@ struct SessionFault {
     int requests;
     const char* lastCookie; ///< of the last request to the web application
     int limitMs = 20000;
+    int rounds = 20;
 };
 
 void PrintTo(const SessionFault& fault, std::ostream* out)
@@ -41,11 +42,18 @@ void PrintTo(const SessionFault& fault, std::ostream* out)
 class SessionFaults : public BuiltGateway, public testing::WithParamInterface<SessionFault>
 {
 protected:
-    void SetUp() override
+    void SetUp() override { build({{"XML_VERSION", "1.0.1"}}); }
+
+    /// A limit of its own is for the fault alone: on a busy machine a good exchange takes longer.
+    void expectOutcome()
     {
-        build({{"XML_VERSION", "1.0.1"}});
-        cpe->getGeneralImplementor()->setRequestExecutor(
-            boost::make_shared<HttpRequestExecutor>(GetParam().limitMs));
+        const auto general = cpe->getGeneralImplementor();
+        const auto usual = general->getRequestExecutor();
+        if (GetParam().limitMs != HttpRequestExecutor::defaultLimitMs)
+            general->setRequestExecutor(
+                boost::make_shared<HttpRequestExecutor>(GetParam().limitMs));
+        expectVersion(GetParam().version, GetParam().error);
+        general->setRequestExecutor(usual);
     }
 
     void expectVersion(const char* expected, int expectedError)
@@ -97,7 +105,7 @@ const SessionFault faults[] = {
     // A login that fails in transport names no error.
     {"ExpiresAndTheLoginHangs",
      [](ScriptedGateway& gateway) { gateway.reply(expired()).sendAndHold({}); }, 0, "", 2, "SID=1",
-     150},
+     1000, 5},
     {"ExpiresAndTheLoginIsCut",
      [](ScriptedGateway& gateway) { gateway.reply(expired()).sendRaw("HTTP/1.1 200 OK\r\nSet-"); },
      0, "", 2, "SID=1"},
@@ -132,12 +140,12 @@ TEST_P(SessionFaults, AreRecoveredFromOrReported)
 {
     expectGoodExchange();
     const Resources before;
-    for (int round = 0; round < 20; ++round) {
+    for (int round = 0; round < GetParam().rounds; ++round) {
         SCOPED_TRACE(round);
         const int requests = gateway.requests().size();
         const int connections = gateway.connections();
         GetParam().play(gateway);
-        expectVersion(GetParam().version, GetParam().error);
+        expectOutcome();
         EXPECT_EQ(gateway.requests().size() - requests, GetParam().requests);
         EXPECT_EQ(gateway.connections() - connections, GetParam().requests);
         EXPECT_EQ(lastCookie(), QByteArray(GetParam().lastCookie));

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <algorithm>
 #include <chrono>
 #include <thread>
 #include <unistd.h>
@@ -38,6 +39,16 @@ long residentKilobytes()
     QFile file(text("/proc/self/statm"));
     file.open(QIODevice::ReadOnly);
     return file.readAll().split(' ').value(1).toLong() * (::sysconf(_SC_PAGESIZE) / 1024);
+}
+
+Resources::Resources() : files(openFiles()), threads(runningThreads())
+{
+    // The other end of a connection that has just closed may still be closing: the fewest count.
+    for (int i = 0; i < 30; ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        files = std::min(files, openFiles());
+        threads = std::min(threads, runningThreads());
+    }
 }
 
 bool Resources::areBack() const

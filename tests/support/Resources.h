@@ -8,14 +8,19 @@ int runningThreads();
 /// What of the process is in memory now.
 long residentKilobytes();
 
-/// What the process has open and running when this is made.
-struct Resources {
-    int files = openFiles();
-    int threads = runningThreads();
+/// What the process has open and running when this is made, without what is about to go.
+class Resources
+{
+public:
+    Resources();
 
     /// Waits until no more files are open and no more threads run than when this was made. False
     /// after 10 seconds.
     bool areBack() const;
+
+private:
+    int files;
+    int threads;
 };
 
 } // namespace quorvel::test
