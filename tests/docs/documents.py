@@ -37,8 +37,10 @@ void snippet{line}(boost::shared_ptr<AspCpeFacadeObject> gateway, Authentication
                    AspWebAppErrorCodes error, QObject* window)
 {{
     (void)gateway, (void)info, (void)error, (void)window;
+    {{ // where these names may be used for others
 #line {start} "{document}"
 {body}
+    }}
 }}
 """
 
