@@ -87,7 +87,7 @@ TEST_F(QuorvelctlDump, HoldsWhatTheCommandsReadAndWhatTheGatewaySaid)
           "                \"radio\": \"wireless-0\",\n",
           "        \"description\": \"A gateway that was dumped\",\n"
           "        \"dialect\": \"1.0.1\",\n",
-          "<query inst=\\\"sysmgr-0\\\"><key>fwversion</key>", "<value>3.2.0-r7</value>"})
+          "<query inst=\\\"sysmgr-0\\\">\\n  <key>fwversion</key>\\n", "<value>3.2.0-r7</value>"})
         EXPECT_THAT(dump, HasSubstr(part));
 }
 

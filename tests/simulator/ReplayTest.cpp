@@ -127,7 +127,7 @@ TEST(ReplayTest, RefusesWhatItCanNotReplay)
         {{"--scenario", noRequest.path()},
          noRequest.path() + ": replies0.request: must be the XML of a request"},
         {{"--scenario", noKey.path()}, noKey.path() + ": replies0.answer: is no key of a reply"},
-        {{"--from-dump", noDump.path(), "--scenario", "modern"}, "--from-dump excludes --scenario"},
+        {{"--from-dump", noDump.path(), "--scenario", "modern"}, "--scenario excludes --from-dump"},
     };
     for (const auto& [arguments, message] : cases) {
         Program program(arguments);

@@ -16,6 +16,7 @@ void addCommands(CLI::App& app, Session& session)
     addRestartCommands(app, session);
     addWifiCommands(app, session);
     addDumpCommand(app, session);
+    addWatchCommand(app, session);
 }
 
 } // namespace quorvelctl

@@ -22,6 +22,7 @@ void addRestartCommands(CLI::App& app, Session& session);
 void addUsbCommands(CLI::App& app, Session& session);
 void addWanCommands(CLI::App& app, Session& session);
 void addWarrantyCommands(CLI::App& app, Session& session);
+void addWatchCommand(CLI::App& app, Session& session);
 void addWifiCommands(CLI::App& app, Session& session);
 /// @}
 
