@@ -18,9 +18,13 @@ void declare(CLI::App& app, Options& options)
 {
     const CLI::Range port(0, 65535);
     const CLI::Range count(0, INT_MAX);
-    app.add_option("--scenario", options.scenario,
-                   "The gateway to be: a name of --list-scenarios, or a file")
-        ->capture_default_str();
+    auto* scenario = app.add_option("--scenario", options.scenario,
+                                    "The gateway to be: a name of --list-scenarios, or a file")
+                         ->capture_default_str();
+    app.add_option("--from-dump", options.dump,
+                   "Be the gateway that 'quorvelctl dump' has written to this file")
+        ->type_name("FILE")
+        ->excludes(scenario);
     app.add_option("--address", options.address, "The address to listen on")->capture_default_str();
     app.add_option("--port", options.port, "The port to listen on; 0 takes a free one")
         ->capture_default_str()

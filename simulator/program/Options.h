@@ -9,6 +9,8 @@ namespace quorvel::simulator
 /// What the command line asks for.
 struct Options {
     std::string scenario = "modern";
+    /// A dump to be the gateway of, in place of a scenario; empty: none.
+    std::string dump;
     std::string address = "127.0.0.1";
     int port = 0;
     /// -1: no control port.

@@ -93,7 +93,8 @@ bool writeTranscript(const GatewaySimulator& gateway, const std::string& path)
 int run(const Options& options)
 {
     std::string error;
-    auto scenario = Scenario::load(options.scenario, &error);
+    auto scenario = options.dump.empty() ? Scenario::load(options.scenario, &error)
+                                         : Scenario::fromDump(options.dump, &error);
     if (!scenario)
         return fail(BadUsage, error);
     apply(options, *scenario);

@@ -59,6 +59,13 @@ bool understands(const std::string& dialect, const std::string& version)
     return version == dialect || (dialect == "1.0.1" && version == "1.0.0");
 }
 
+Script unanswered()
+{
+    Script script;
+    script.end = Script::End::Close;
+    return script;
+}
+
 } // namespace
 
 Script Gateway::answer(const HttpRequest& request)
@@ -94,6 +101,8 @@ Script Gateway::serve(const HttpRequest& request, FaultTarget target,
     }
     Script script = fault ? spoiltScript(request, served.reply, *fault, scenario.dialect)
                           : scriptOf(request, served.reply);
+    if (served.unanswered)
+        script = unanswered();
     if (served.goesDown)
         script.down = downTime;
     return script;
@@ -137,6 +146,9 @@ Gateway::Served Gateway::runWebApp(const HttpRequest& request, const std::option
         return {webAppReply({}, static_cast<ErrorCode>(argumentOf(*fault)))};
     Request commands;
     ErrorCode error = readRequest(request.body, commands);
+    const auto* recorded = error == ErrorCode::None ? recordings.find(commands) : nullptr;
+    if (recorded)
+        return replayed(*recorded);
     if (error == ErrorCode::None && !understands(scenario.dialect, commands.version))
         error = ErrorCode::WrongDialect;
     Served served;
@@ -144,6 +156,15 @@ Gateway::Served Gateway::runWebApp(const HttpRequest& request, const std::option
         error = runRequest(commands, token, fault, served);
     if (error != ErrorCode::None)
         served.reply = webAppReply({}, error);
+    return served;
+}
+
+Gateway::Served Gateway::replayed(const RecordedReply& recorded)
+{
+    Served served;
+    served.reply.status = recorded.status;
+    served.reply.body = recorded.body;
+    served.unanswered = recorded.status == 0;
     return served;
 }
 

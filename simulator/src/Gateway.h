@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FaultPlan.h"
+#include "Recordings.h"
 #include "Script.h"
 #include "Sessions.h"
 #include "WebApp.h"
@@ -55,11 +56,13 @@ private:
     struct Served {
         HttpReply reply;
         bool goesDown = false;
+        bool unanswered = false;
     };
 
     Script serve(const HttpRequest& request, FaultTarget target, const std::optional<Fault>& fault);
     Served process(const HttpRequest& request, FaultTarget target,
                    const std::optional<Fault>& fault);
+    static Served replayed(const RecordedReply& recorded);
     HttpReply logIn(const HttpRequest& request);
     Served runWebApp(const HttpRequest& request, const std::optional<Fault>& fault);
     ErrorCode runRequest(const Request& request, const std::string& token,
@@ -73,6 +76,7 @@ private:
     mutable std::mutex mutex;
     mutable std::condition_variable counted;
     const Scenario scenario;
+    const Recordings recordings;
     State current;
     Sessions sessions;
     FaultPlan faults;

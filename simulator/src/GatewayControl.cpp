@@ -5,7 +5,10 @@ namespace quorvel::simulator
 {
 
 Gateway::Gateway(Scenario factorySettings)
-    : scenario(std::move(factorySettings)), current(scenario), downTime(scenario.rebootTime)
+    : scenario(std::move(factorySettings)),
+      recordings(scenario.replies),
+      current(scenario),
+      downTime(scenario.rebootTime)
 {
     sessions.numberLimit = scenario.sessionNumber;
     sessions.requestLimit = scenario.sessionRequests;

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <set>
 
@@ -87,6 +89,18 @@ std::optional<Scenario> loadScenario(const std::string& nameOrPath, int above, s
     if (scenario)
         scenario->name = QFileInfo(path).completeBaseName().toStdString();
     return scenario;
+}
+
+std::optional<Scenario> Scenario::fromDump(const std::string& path, std::string* error)
+{
+    QFile file(QString::fromStdString(path));
+    if (!file.open(QIODevice::ReadOnly))
+        return failure(path + ": " + file.errorString().toStdString(), error);
+    const QJsonValue scenario =
+        QJsonDocument::fromJson(file.readAll()).object().value(QLatin1String("scenario"));
+    if (!scenario.isObject())
+        return failure(path + ": is no dump of a gateway", error);
+    return readScenario(QJsonDocument(scenario.toObject()).toJson().toStdString(), path, 0, error);
 }
 
 std::vector<std::string> Scenario::names()

@@ -1,4 +1,5 @@
 #include "ScenarioFiles.h"
+#include "WebApp.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -196,6 +197,39 @@ void readTemplates(const QJsonValue& value, const QString& place, Scenario& scen
     }
 }
 
+RecordedReply readReply(const QJsonObject& reply, const QString& place, Problems& problems)
+{
+    RecordedReply read;
+    for (auto entry = reply.begin(); entry != reply.end(); ++entry) {
+        const QString where = below(place, entry.key());
+        if (entry.key() == QLatin1String("request"))
+            read.request = readText(entry.value(), where, problems);
+        else if (entry.key() == QLatin1String("status"))
+            read.status = readCount(entry.value(), where, problems);
+        else if (entry.key() == QLatin1String("body"))
+            read.body = readText(entry.value(), where, problems);
+        else
+            problems.add(where, "is no key of a reply");
+    }
+    Request request;
+    if (readRequest(read.request, request) != ErrorCode::None)
+        problems.add(below(place, QStringLiteral("request")), "must be the XML of a request");
+    return read;
+}
+
+void readReplies(const QJsonValue& value, const QString& place, Scenario& scenario,
+                 Problems& problems)
+{
+    if (!value.isArray())
+        problems.add(place, "must be a list in brackets");
+    scenario.replies.clear();
+    const QJsonArray replies = value.toArray();
+    for (const QJsonValue& reply : replies) {
+        const QString where = place + QString::number(scenario.replies.size());
+        scenario.replies.push_back(readReply(readObject(reply, where, problems), where, problems));
+    }
+}
+
 using Reader = std::function<void(const QJsonValue&, const QString&, Scenario&, Problems&)>;
 
 struct TopLevelKey {
@@ -230,6 +264,7 @@ const std::vector<TopLevelKey>& topLevel()
              scenario.environment = readFlat(value, place, problems);
          }},
         {"templates", false, readTemplates},
+        {"replies", false, readReplies},
     };
     return keys;
 }

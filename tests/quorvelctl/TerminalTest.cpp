@@ -1,11 +1,7 @@
+#include "Terminal.h"
 #include "QuorvelctlRun.h"
 
-#include <chrono>
-#include <cstdlib>
-#include <fcntl.h>
 #include <gmock/gmock.h>
-#include <poll.h>
-#include <unistd.h>
 
 namespace quorvelctl::test
 {
@@ -15,70 +11,6 @@ using testing::HasSubstr;
 
 namespace
 {
-
-/// A terminal as a program sees it, with us at its keyboard and screen.
-class Terminal
-{
-public:
-    Terminal() : keyboard(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC))
-    {
-        if (keyboard < 0 || grantpt(keyboard) != 0 || unlockpt(keyboard) != 0) {
-            ADD_FAILURE() << "no terminal to be had";
-            return;
-        }
-        name = QString::fromLocal8Bit(ptsname(keyboard));
-        // Kept open, so that the screen stays readable when the program has ended.
-        device = open(ptsname(keyboard), O_RDWR | O_NOCTTY | O_CLOEXEC);
-    }
-    ~Terminal()
-    {
-        close(device);
-        close(keyboard);
-    }
-    Terminal(const Terminal&) = delete;
-    Terminal& operator=(const Terminal&) = delete;
-
-    /// Starts quorvelctl with this terminal; its results go to a pipe.
-    void start(QProcess& process, const std::string& arguments, const Surroundings& surroundings)
-    {
-        process.setStandardInputFile(name);
-        process.setStandardErrorFile(name);
-        test::start(process, arguments, surroundings);
-    }
-
-    /// The same with the results on its screen.
-    void startAll(QProcess& process, const std::string& arguments, const Surroundings& surroundings)
-    {
-        process.setStandardOutputFile(name);
-        start(process, arguments, surroundings);
-    }
-
-    void type(const std::string& text)
-    {
-        EXPECT_EQ(write(keyboard, text.data(), text.size()), static_cast<ssize_t>(text.size()));
-    }
-
-    /// What the screen shows, read until it shows `text` or nothing more for `patience`.
-    std::string readUntil(const std::string& text, std::chrono::seconds patience)
-    {
-        pollfd screen{keyboard, POLLIN, 0};
-        char bytes[4096];
-        while (shown.find(text) == std::string::npos &&
-               poll(&screen, 1, static_cast<int>(patience.count() * 1000)) > 0) {
-            const ssize_t number = read(keyboard, bytes, sizeof bytes);
-            if (number <= 0)
-                break;
-            shown.append(bytes, static_cast<std::size_t>(number));
-        }
-        return shown;
-    }
-
-private:
-    int keyboard;
-    int device = -1;
-    QString name;
-    std::string shown;
-};
 
 const std::chrono::seconds patience(60);
 

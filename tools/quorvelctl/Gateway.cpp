@@ -17,8 +17,10 @@ const int replyLimitMs = 20000;
 
 } // namespace
 
-Gateway::Gateway(const AuthenticationInfo& login, LogWatch& watch)
-    : watch(watch), info(login), handle(info)
+Gateway::Gateway(const AuthenticationInfo& login, LogWatch& watch, const QString& via)
+    : watch(watch),
+      info(login),
+      handle({login.user, login.password, via.isEmpty() ? login.cpeAddress : via})
 {
     watch.reset();
     QElapsedTimer clock;

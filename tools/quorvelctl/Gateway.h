@@ -16,7 +16,8 @@ namespace quorvelctl
 class Gateway
 {
 public:
-    Gateway(const quorvel::AuthenticationInfo& login, LogWatch& watch);
+    /// With `via`, all requests go to this address, which relays them.
+    Gateway(const quorvel::AuthenticationInfo& login, LogWatch& watch, const QString& via);
 
     const QString& address() const { return info.cpeAddress; }
     quorvel::AspCpeFacadeObject& object() { return handle; }

@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <QVector>
 #include <algorithm>
-#include <iostream>
+#include <ostream>
 
 namespace quorvelctl
 {
@@ -14,34 +14,35 @@ namespace quorvelctl
 namespace
 {
 
-void writeLine(const QString& line)
+void writeLine(std::ostream& out, const QString& line)
 {
     int length = line.size();
     while (length > 0 && line.at(length - 1) == QLatin1Char(' '))
         --length;
-    std::cout << line.left(length).toStdString() << '\n';
+    out << line.left(length).toStdString() << '\n';
 }
 
-void writeRow(const QStringList& cells, const QVector<int>& widths)
+void writeRow(std::ostream& out, const QStringList& cells, const QVector<int>& widths)
 {
     QString line;
     for (int i = 0; i < cells.size(); ++i)
         line += cells.at(i).leftJustified(widths.at(i) + 2);
-    writeLine(line);
+    writeLine(out, line);
 }
 
-void writeJson(const QJsonDocument& document)
+void writeJson(std::ostream& out, const QJsonDocument& document,
+               QJsonDocument::JsonFormat format = QJsonDocument::Indented)
 {
     // Qt escapes only the older half of the control characters.
     QString text;
-    const QString json = QString::fromUtf8(document.toJson());
+    const QString json = QString::fromUtf8(document.toJson(format));
     for (const QChar character : json) {
         if (character.unicode() >= 0x7f && character.category() == QChar::Other_Control)
             text += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
         else
             text += character;
     }
-    std::cout << text.toStdString();
+    out << text.toStdString();
 }
 
 /// Quoted only where the text would be torn apart otherwise.
@@ -128,24 +129,25 @@ QJsonArray Output::toJson(const QList<Record>& records) const
 void Output::print(const Record& record) const
 {
     if (json) {
-        writeJson(QJsonDocument(toJson(record)));
+        writeJson(*out, QJsonDocument(toJson(record)));
         return;
     }
     int width = 0;
     for (const Field& field : record)
         width = qMax(width, field.heading.size());
     for (const Field& field : record)
-        writeLine((field.heading + QLatin1Char(':')).leftJustified(width + 2) + textOf(field));
+        writeLine(*out,
+                  (field.heading + QLatin1Char(':')).leftJustified(width + 2) + textOf(field));
 }
 
 void Output::print(const QList<Record>& records, const QString& none) const
 {
     if (json) {
-        writeJson(QJsonDocument(toJson(records)));
+        writeJson(*out, QJsonDocument(toJson(records)));
         return;
     }
     if (records.isEmpty()) {
-        writeLine(none);
+        writeLine(*out, none);
         return;
     }
     QList<QStringList> rows{headingsOf(records.first())};
@@ -161,7 +163,7 @@ void Output::print(const QList<Record>& records, const QString& none) const
             widths[i] = qMax(widths.at(i), cells.value(i).size());
     }
     for (const QStringList& cells : qAsConst(rows))
-        writeRow(cells, widths);
+        writeRow(*out, cells, widths);
 }
 
 void Output::printTables(const QList<Table>& tables) const
@@ -173,11 +175,11 @@ void Output::printTables(const QList<Table>& tables) const
             continue;
         }
         if (&table != &tables.first())
-            writeLine(QString());
+            writeLine(*out, QString());
         print(table.records, table.none);
     }
     if (json)
-        writeJson(QJsonDocument(object));
+        writeJson(*out, QJsonDocument(object));
 }
 
 void Output::print(const Record& whole, const QString& partsKey, const QList<Record>& parts,
@@ -189,11 +191,11 @@ void Output::print(const Record& whole, const QString& partsKey, const QList<Rec
     }
     print(whole);
     for (const Record& part : parts) {
-        writeLine(QString());
+        writeLine(*out, QString());
         print(part);
     }
     if (parts.isEmpty())
-        writeLine(none);
+        writeLine(*out, none);
 }
 
 void Output::printCsv(const Record& example, const QList<Record>& records) const
@@ -201,19 +203,19 @@ void Output::printCsv(const Record& example, const QList<Record>& records) const
     QStringList cells;
     for (const Field& field : example)
         cells.append(csvCell(field.key));
-    std::cout << cells.join(QLatin1Char(',')).toStdString() << '\n';
+    *out << cells.join(QLatin1Char(',')).toStdString() << '\n';
     for (const Record& record : records) {
         cells.clear();
         for (const Field& field : record)
             cells.append(csvCell(textOf(field)));
-        std::cout << cells.join(QLatin1Char(',')).toStdString() << '\n';
+        *out << cells.join(QLatin1Char(',')).toStdString() << '\n';
     }
 }
 
 void Output::printEach(const QList<Record>& records) const
 {
     if (json) {
-        writeJson(QJsonDocument(toJson(records)));
+        writeJson(*out, QJsonDocument(toJson(records)));
         return;
     }
     for (int i = 0; i < records.size(); ++i) {
@@ -226,13 +228,24 @@ void Output::printEach(const QList<Record>& records) const
 void Output::printLine(const QString& line) const
 {
     if (!json)
-        writeLine(printable(line));
+        writeLine(*out, printable(line));
 }
 
 void Output::printPicture(const QString& lines) const
 {
     if (!json)
-        std::cout << lines.toStdString();
+        *out << lines.toStdString();
+}
+
+void Output::printDocument(const QJsonObject& document) const
+{
+    writeJson(*out, QJsonDocument(document));
+}
+
+void Output::printJsonLine(const QJsonObject& object) const
+{
+    writeJson(*out, QJsonDocument(object), QJsonDocument::Compact);
+    writeLine(*out, QString());
 }
 
 void Output::printDone(const QString& sentence) const
@@ -240,7 +253,7 @@ void Output::printDone(const QString& sentence) const
     if (json)
         print(Record{{QStringLiteral("done"), QString(), sentence}});
     else
-        writeLine(sentence);
+        writeLine(*out, sentence);
 }
 
 } // namespace quorvelctl

@@ -5,6 +5,7 @@
 #include <QJsonValue>
 #include <QList>
 #include <QString>
+#include <iostream>
 
 namespace quorvelctl
 {
@@ -37,11 +38,14 @@ Field secretField(const QString& key, const QString& heading, const QString& val
 /// for those in `harmless`.
 QString printable(const QString& text, const QString& harmless = QString());
 
-/// Writes results to standard output, for people or as JSON.
+/// Writes results to standard output or elsewhere, for people or as JSON.
 class Output
 {
 public:
-    Output(bool json, bool showSecrets) : json(json), showSecrets(showSecrets) {}
+    Output(bool json, bool showSecrets, std::ostream& out = std::cout)
+        : json(json), showSecrets(showSecrets), out(&out)
+    {
+    }
 
     /// One thing: a line per value, or an object.
     void print(const Record& record) const;
@@ -62,6 +66,10 @@ public:
     void printLine(const QString& line = QString()) const;
     /// For people only: lines that are drawn, colours included.
     void printPicture(const QString& lines) const;
+    /// What is JSON, whoever reads it.
+    void printDocument(const QJsonObject& document) const;
+    /// The same as a line of a stream of them.
+    void printJsonLine(const QJsonObject& object) const;
     /// What a command did: a sentence, or an object with "done".
     void printDone(const QString& sentence) const;
 
@@ -75,6 +83,7 @@ private:
 
     bool json;
     bool showSecrets;
+    std::ostream* out;
 };
 
 } // namespace quorvelctl

@@ -2,7 +2,9 @@
 
 #include "Failure.h"
 
+#include <QScopeGuard>
 #include <iostream>
+#include <sstream>
 #include <string>
 
 namespace quorvelctl
@@ -19,8 +21,27 @@ const quorvel::AuthenticationInfo& Session::login()
 Gateway& Session::gateway()
 {
     if (!opened)
-        opened = std::make_unique<Gateway>(login(), watch);
+        opened = std::make_unique<Gateway>(login(), watch, via);
     return *opened;
+}
+
+void Session::reachVia(const QString& address)
+{
+    via = address;
+    opened.reset();
+}
+
+QByteArray Session::collectJson(const std::function<void()>& run)
+{
+    std::ostringstream collected;
+    const auto undo = qScopeGuard([this, json = options.json, printed = results] {
+        options.json = json;
+        results = printed;
+    });
+    options.json = true;
+    results = &collected;
+    run();
+    return QByteArray::fromStdString(collected.str());
 }
 
 QString Session::readSecret(const SecretSource& source)

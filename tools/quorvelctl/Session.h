@@ -5,6 +5,7 @@
 #include "Options.h"
 #include "Output.h"
 
+#include <functional>
 #include <memory>
 
 namespace quorvelctl
@@ -21,9 +22,14 @@ public:
     /// all that a command reads from standard input the login password comes first.
     const quorvel::AuthenticationInfo& login();
     Gateway& gateway();
+    /// From now on the gateway is reached by way of this address, which relays to it.
+    void reachVia(const QString& address);
     /// A secret that a command needs besides, read before the gateway is asked anything.
     QString readSecret(const SecretSource& source);
-    Output output() const { return Output(options.json, options.showSecrets); }
+    Output output() const { return Output(options.json, options.showSecrets, *results); }
+
+    /// What `run` prints, as JSON and in place of printing it.
+    QByteArray collectJson(const std::function<void()>& run);
 
     /// Shows the library's log as the options say.
     void applyLogLevel();
@@ -33,6 +39,8 @@ public:
 
 private:
     LogWatch watch;
+    std::ostream* results = &std::cout;
+    QString via;
     std::unique_ptr<quorvel::AuthenticationInfo> credentials;
     std::unique_ptr<Gateway> opened;
 };

@@ -14,6 +14,16 @@ using Values = std::map<std::string, std::string>;
 /// The objects of a gateway by instance name, as `wan-0`.
 using Objects = std::map<std::string, Values>;
 
+/// What a gateway answered to one request, word for word.
+struct RecordedReply {
+    /// The XML of the request. The same request gets the reply also if it is spelled otherwise.
+    std::string request;
+    /// The HTTP status; 0 if there was no reply: the connection closes without a byte.
+    int status = 200;
+    /// The body.
+    std::string body;
+};
+
 /// What a gateway is before anybody has touched it: its factory settings. Copies are cheap enough
 /// to be passed by value.
 struct Scenario {
@@ -42,6 +52,8 @@ struct Scenario {
     Objects status;
     /// The configuration of an object that `create_inst` has just made, by manager.
     Objects templates;
+    /// Requests that the objects don't answer, but get these replies.
+    std::vector<RecordedReply> replies;
 
     /// Reads a scenario by its name, as "modern", or from a file, if the text ends in ".json" or
     /// holds a "/". A name is looked for in the folder named by the environment variable
@@ -49,6 +61,10 @@ struct Scenario {
     /// those built in. Nothing on failure, with the reason (which file, which key) in `error`.
     static std::optional<Scenario> load(const std::string& nameOrPath,
                                         std::string* error = nullptr);
+
+    /// Reads the scenario that stands in a dump of a gateway: a JSON object that has it under the
+    /// key `scenario`, among whatever else.
+    static std::optional<Scenario> fromDump(const std::string& path, std::string* error = nullptr);
 
     /// Reads the text of a scenario file; `origin` is what a message calls it. A base that it names
     /// is looked for as `load` does.

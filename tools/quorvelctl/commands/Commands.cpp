@@ -15,6 +15,8 @@ void addCommands(CLI::App& app, Session& session)
     addUsbCommands(app, session);
     addRestartCommands(app, session);
     addWifiCommands(app, session);
+    addDumpCommand(app, session);
+    addWatchCommand(app, session);
 }
 
 } // namespace quorvelctl
