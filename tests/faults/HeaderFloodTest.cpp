@@ -89,9 +89,9 @@ TEST_P(HeaderFloods, End)
     opponent.behave();
     cpe->getGeneralImplementor()->setRequestExecutor(usual);
     EXPECT_EQ(facade.getFirmwareVersion(error), text("1.2"));
-    // Qt's thread goes on until the gateway stops.
+    // Qt's thread goes on until the gateway has stopped and all is read that has come.
     opponent.release();
-    EXPECT_TRUE(before.areBack());
+    EXPECT_TRUE(before.areBack(std::chrono::seconds(60)));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, HeaderFloods, testing::ValuesIn(floods()),

@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <algorithm>
-#include <chrono>
 #include <thread>
 #include <unistd.h>
 
@@ -51,10 +50,10 @@ Resources::Resources() : files(openFiles()), threads(runningThreads())
     }
 }
 
-bool Resources::areBack() const
+bool Resources::areBack(std::chrono::seconds patience) const
 {
     using Clock = std::chrono::steady_clock;
-    const auto deadline = Clock::now() + std::chrono::seconds(10);
+    const auto deadline = Clock::now() + patience;
     while (openFiles() > files || runningThreads() > threads) {
         if (Clock::now() > deadline)
             return false;

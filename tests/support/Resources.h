@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 namespace quorvel::test
 {
 
@@ -15,8 +17,8 @@ public:
     Resources();
 
     /// Waits until no more files are open and no more threads run than when this was made. False
-    /// after 10 seconds.
-    bool areBack() const;
+    /// after so long.
+    bool areBack(std::chrono::seconds patience = std::chrono::seconds(10)) const;
 
 private:
     int files;
