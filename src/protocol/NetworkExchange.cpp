@@ -103,8 +103,10 @@ NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limit
         reply, [reply] { reply->setReadBufferSize(readAhead); }, Qt::QueuedConnection);
     QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     QObject::connect(reply, &QNetworkReply::readyRead, &loop, [this] { receive(); });
+    // By name: of a connection by pointer Qt loses the pointer's holder if it ends while the signal
+    // is raised on another thread.
     if (abortSignal)
-        QObject::connect(abortSignal, &AbortSignal::raised, &loop, &QEventLoop::quit);
+        QObject::connect(abortSignal, SIGNAL(raised()), &loop, SLOT(quit()));
 
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer);
