@@ -7,6 +7,7 @@
 #include <QLatin1String>
 #include <QList>
 #include <QString>
+#include <QStringBuilder>
 #include <cstddef>
 #include <initializer_list>
 
@@ -33,7 +34,7 @@ void readTexts(Record& record, const Table& fields, const ParamMap& reply, const
                const QString& number = QString())
 {
     for (const TextField<Record>& field : fields)
-        record.*field.member = reply.value(prefix + QLatin1String(field.entry) + number);
+        record.*field.member = reply.value(prefix % QLatin1String(field.entry) % number);
 }
 
 /// A word of the gateway's and the enumerator that it stands for.

@@ -1,7 +1,6 @@
 #include "protocol/AspResponsePairs.h"
 
 #include "protocol/AspResponseDocument.h"
-#include "protocol/ParamKeys.h"
 
 namespace quorvel
 {
@@ -9,23 +8,22 @@ namespace quorvel
 namespace
 {
 
-void insertPair(const QDomElement& object, ParamMap& result,
+void insertPair(const QDomElement& object, EntryWriter& entries,
                 const std::function<QString(const QString& key)>& nameKey)
 {
+    const std::vector<Leaf> leaves = leavesOf(object);
     QString key;
     QString value;
-    for (QDomElement part = object.firstChildElement(); !part.isNull();
-         part = part.nextSiblingElement()) {
-        const QString name = part.tagName();
-        if (name == QLatin1String("key"))
-            key = nameKey(part.text());
-        else if (name == QLatin1String("value"))
-            value = part.text();
+    for (const Leaf& leaf : leaves) {
+        if (leaf.name == QLatin1String("key"))
+            key = nameKey(leaf.text);
+        else if (leaf.name == QLatin1String("value"))
+            value = leaf.text;
     }
     if (key.isEmpty())
-        insertLeaves(object, result);
+        entries.insert(object, leaves);
     else
-        result.insert(replyKey(object.tagName(), key), value);
+        entries.insert(object, key, value);
 }
 
 } // namespace
@@ -36,9 +34,9 @@ bool parsePairs(const QString& response, ParamMap& result,
     const QDomDocument document = readResponse(response, result);
     if (document.isNull())
         return false;
-    for (QDomElement object = document.documentElement().firstChildElement(); !object.isNull();
-         object = object.nextSiblingElement())
-        insertPair(object, result, nameKey);
+    EntryWriter entries(result);
+    forEachElement(document.documentElement(),
+                   [&](const QDomElement& object) { insertPair(object, entries, nameKey); });
     return true;
 }
 

@@ -13,9 +13,9 @@ bool AspResponseParserV1::parse(const QString& response, ParamMap& result)
     const QDomDocument document = readResponse(response, result);
     if (document.isNull())
         return false;
-    for (QDomElement object = document.documentElement().firstChildElement(); !object.isNull();
-         object = object.nextSiblingElement())
-        insertLeaves(object, result);
+    EntryWriter entries(result);
+    forEachElement(document.documentElement(),
+                   [&](const QDomElement& object) { entries.insert(object, leavesOf(object)); });
     return true;
 }
 

@@ -11,7 +11,7 @@ namespace quorvel
 /// A reader that stops at what no gateway sends and no document tree survives: elements nested too
 /// deeply, whose tree would be walked recursively, declared entities, which grow without bound, and
 /// too many elements, each of which takes fifty times the room of its text. It looks while the one
-/// pass over the text runs, and wants a GuardedXmlSource.
+/// pass over the text runs, and wants a GuardedXmlSource where one is needed.
 ///
 /// What no parser reads doesn't reach the tree: comments, attributes other than the root's version,
 /// and below an entry everything but its text.
@@ -91,6 +91,12 @@ class GuardedXmlSource : public QXmlInputSource
 public:
     /// Equals signs from one "<" to the next, and so attributes of one element.
     static constexpr int mostEqualsSigns = 100000;
+
+    /// Whether there can be anything to end a text at. One without is read faster as it is.
+    static bool isNeededFor(const QString& text)
+    {
+        return text.contains(QLatin1Char('!')) || text.count(QLatin1Char('=')) > mostEqualsSigns;
+    }
 
     QChar next() override;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringBuilder>
 
 namespace quorvel
 {
@@ -22,7 +23,7 @@ inline const QString responseKey = QStringLiteral("response");
 /// The name under which an entry of an instance stands in a map.
 inline QString replyKey(const QString& instance, const QString& entry)
 {
-    return instance + QLatin1Char('.') + entry;
+    return instance % QLatin1Char('.') % entry;
 }
 
 } // namespace quorvel

@@ -8,22 +8,22 @@ namespace quorvel
 
 void RequestFormatter::addCommand(const QString& inst, const QString& key, const QString& value)
 {
-    enqueue(QLatin1String("command"), inst, key, value);
+    enqueue(QStringLiteral("command"), inst, key, value);
 }
 
 void RequestFormatter::addGet(const QString& inst, const QString& key, const QString& value)
 {
-    enqueue(QLatin1String("get"), inst, key, value);
+    enqueue(QStringLiteral("get"), inst, key, value);
 }
 
 void RequestFormatter::addSet(const QString& inst, const QString& key, const QString& value)
 {
-    enqueue(QLatin1String("set"), inst, key, value);
+    enqueue(QStringLiteral("set"), inst, key, value);
 }
 
 void RequestFormatter::addQuery(const QString& inst, const QString& key, const QString& value)
 {
-    enqueue(QLatin1String("query"), inst, key, value);
+    enqueue(QStringLiteral("query"), inst, key, value);
 }
 
 void RequestFormatter::clearCommands()
@@ -33,7 +33,7 @@ void RequestFormatter::clearCommands()
         commands = Queue();
 }
 
-void RequestFormatter::enqueue(QLatin1String commandType, const QString& inst, const QString& key,
+void RequestFormatter::enqueue(const QString& commandType, const QString& inst, const QString& key,
                                const QString& value)
 {
     const auto command =

@@ -46,7 +46,7 @@ protected:
 private:
     Q_DISABLE_COPY(RequestFormatter)
 
-    void enqueue(QLatin1String commandType, const QString& inst, const QString& key,
+    void enqueue(const QString& commandType, const QString& inst, const QString& key,
                  const QString& value);
 };
 

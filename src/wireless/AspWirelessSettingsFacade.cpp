@@ -67,11 +67,13 @@ QStringList clientsIn(const ParamMap& reply)
     if (!reply.contains(key))
         key = QStringLiteral("wireless_ap-0.station1.mac");
     QStringList clients;
-    for (int next = 2; reply.contains(key); ++next) {
-        clients.append(reply.value(key));
+    for (int next = 2;; ++next) {
+        const auto client = reply.constFind(key);
+        if (client == reply.constEnd())
+            return clients;
+        clients.append(*client);
         key = pattern.arg(next);
     }
-    return clients;
 }
 
 } // namespace

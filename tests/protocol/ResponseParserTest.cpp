@@ -44,6 +44,21 @@ TYPED_TEST(AnyResponseParser, PutsLeavesUnderObjectAndEntry)
                      "sysmgr-0.uptime=7", "webapp.error=5"}));
 }
 
+TYPED_TEST(AnyResponseParser, LeavesPrefixesOfNamespacesOut)
+{
+    EXPECT_EQ(parsed<TypeParam>("<x:response xmlns:x=\"urn:x\" version=\"1.0.1\">"
+                                "<x:sysmgr-0><x:fwversion>1.2</x:fwversion></x:sysmgr-0>"
+                                "</x:response>"),
+              lines({"response=1.0.1", "sysmgr-0.fwversion=1.2"}));
+}
+
+TYPED_TEST(AnyResponseParser, TakesEntriesInWhateverOrder)
+{
+    EXPECT_EQ(parsed<TypeParam>("<z version=\"1\"><m><d>1</d><b>2</b><c>3</c><a>4</a><d>5</d></m>"
+                                "<a><z>6</z></a><m><b>7</b><e>8</e></m><z><z>9</z></z></z>"),
+              lines({"a.z=6", "m.a=4", "m.b=7", "m.c=3", "m.d=5", "m.e=8", "z=1", "z.z=9"}));
+}
+
 TYPED_TEST(AnyResponseParser, TellsTheGatewaysErrorAsAnEntry)
 {
     EXPECT_EQ(parsed<TypeParam>(
