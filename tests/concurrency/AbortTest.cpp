@@ -166,7 +166,7 @@ TEST_F(AbortTest, AtRandomMomentsEndsInSuccessOrFailureAndNothingElse)
     std::thread aborter([&] {
         std::minstd_rand random(1);
         while (!done) {
-            for (unsigned pause = random() % 2000; pause > 0 && !done; --pause)
+            for (unsigned pause = random() % 200; pause > 0 && !done; --pause)
                 std::this_thread::yield();
             executor.abortPendingRequests();
         }
