@@ -7,7 +7,7 @@
 #include "support/PairReporter.h"
 #include "support/Run.h"
 
-#include <cstdlib>
+#include <algorithm>
 
 namespace quorvel::bench
 {
@@ -56,25 +56,39 @@ void parseBare(benchmark::State& state, MakeReply makeReply, Bare bare)
         benchmark::DoNotOptimize(bare(reply));
 }
 
+/// As many as take some 20 ms for documents with so many commands or entries: the same number for
+/// either side of a pair, and one that a moment's unrest of the machine can't make too small.
+benchmark::IterationCount iterationsFor(int count)
+{
+    return std::max(3, 20000 / (count + 10));
+}
+
 void addFormatting()
 {
     for (const int count : {1, 40, 1000}) {
-        benchmark::RegisterBenchmark("3. formatting commands", format)->Arg(count);
+        benchmark::RegisterBenchmark("3. formatting commands", format)
+            ->Arg(count)
+            ->Iterations(iterationsFor(count));
         benchmark::RegisterBenchmark(bareOf("3. formatting commands").c_str(), formatBare)
-            ->Arg(count);
+            ->Arg(count)
+            ->Iterations(iterationsFor(count));
     }
 }
 
 void addParsing(const std::string& name, MakeReply makeReply, bool whole)
 {
     for (const int count : {10, middleReply, whole ? largeReply : 1000}) {
-        benchmark::RegisterBenchmark(name.c_str(), parse, makeReply)->Arg(count);
+        benchmark::RegisterBenchmark(name.c_str(), parse, makeReply)
+            ->Arg(count)
+            ->Iterations(iterationsFor(count));
         benchmark::RegisterBenchmark(bareOf(name).c_str(), parseBare<decltype(&bareRead)>,
                                      makeReply, &bareRead)
-            ->Arg(count);
+            ->Arg(count)
+            ->Iterations(iterationsFor(count));
         benchmark::RegisterBenchmark(bareWithMapOf(name).c_str(), parseBare<decltype(&bareFlatten)>,
                                      makeReply, &bareFlatten)
-            ->Arg(count);
+            ->Arg(count)
+            ->Iterations(iterationsFor(count));
     }
 }
 

@@ -8,6 +8,12 @@ namespace quorvel::bench
 namespace
 {
 
+/// Function and arguments, without how often it is run.
+std::string nameOf(const benchmark::BenchmarkName& name)
+{
+    return name.args.empty() ? name.function_name : name.function_name + '/' + name.args;
+}
+
 void printPair(const SampleReporter& reporter, const std::string& name,
                const std::string& counterpart, const std::string& what, const Goal& goal)
 {
@@ -29,9 +35,10 @@ void SampleReporter::ReportRuns(const std::vector<Run>& runs)
         failed = failed || run.error_occurred;
         if (run.run_type != Run::RT_Iteration || run.error_occurred)
             continue;
-        Samples& samples = collected[run.benchmark_name()];
+        const std::string name = nameOf(run.run_name);
+        Samples& samples = collected[name];
         if (samples.empty())
-            order.push_back(run.benchmark_name());
+            order.push_back(name);
         samples.push_back(run.cpu_accumulated_time * 1e9 / static_cast<double>(run.iterations));
     }
 }
