@@ -21,6 +21,10 @@ function(quorvel_own_target target)
             -fsanitize=${QUORVEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
         target_link_options(${target} PRIVATE -fsanitize=${QUORVEL_SANITIZE})
     endif()
+    if(QUORVEL_SANITIZE MATCHES "address")
+        # Compilers have no common way to tell.
+        target_compile_definitions(${target} PRIVATE QUORVEL_LEAK_CHECKER)
+    endif()
 endfunction()
 
 # Tests are compiled once and run for seconds: time spent on optimising them is lost, and more than

@@ -6,7 +6,7 @@
 #include "protocol/Vocabulary.h"
 
 #include <algorithm>
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(QUORVEL_LEAK_CHECKER)
 #include <sanitizer/lsan_interface.h>
 #endif
 
@@ -22,7 +22,7 @@ using Radio = AspWirelessSettingsFacadeImplementor;
 /// when the last is gone. So nobody deletes them, and the leak checker is told that this is meant.
 Radio* keptForEver(Radio* radio)
 {
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(QUORVEL_LEAK_CHECKER)
     __lsan_ignore_object(dynamic_cast<void*>(radio));
 #endif
     return radio;

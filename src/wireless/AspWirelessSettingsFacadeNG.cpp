@@ -1,9 +1,8 @@
 #include <quorvel/AspWirelessSettingsFacadeNG.h>
 
+#include "wireless/CapabilityDocument.h"
 #include "wireless/WirelessCall.h"
 
-#include <QJsonDocument>
-#include <algorithm>
 #include <boost/make_shared.hpp>
 
 namespace quorvel
@@ -44,26 +43,13 @@ AspWirelessSettings settingsIn(const ParamMap& reply, const QString& manager)
     return settings;
 }
 
-/// Whether a document has more values than a tree of 64 MB can hold: each takes far more room there
-/// than in the text.
-bool hasTooManyValues(const QString& document)
-{
-    const auto begins = [](QChar character) {
-        return character == QLatin1Char(',') || character == QLatin1Char('[') ||
-               character == QLatin1Char('{');
-    };
-    return std::count_if(document.begin(), document.end(), begins) > 50000;
-}
-
-/// A tree of a document as gateways send it. A text that isn't JSON gives an empty one.
+/// A tree of a document as gateways send it.
 boost::shared_ptr<Capabilities> parseCapabilities(QString document)
 {
     // Gateways send one character more than the JSON.
     document.chop(1);
     const auto capabilities = boost::make_shared<Capabilities>();
-    if (hasTooManyValues(document))
-        return capabilities;
-    capabilities->setData(QJsonDocument::fromJson(document.toUtf8()).toVariant().toMap());
+    capabilities->setData(readCapabilityDocument(document));
     capabilities->parse();
     return capabilities;
 }

@@ -6,4 +6,5 @@ target_sources(QuorvelApi1Objects PRIVATE
     wireless/AspWirelessSettingsFacadeManager.cpp
     wireless/AspWirelessSettingsFacadeNG.cpp
     wireless/Capabilities.cpp
+    wireless/CapabilityDocument.cpp
     wireless/WirelessCall.cpp)

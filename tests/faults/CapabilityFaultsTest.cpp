@@ -50,6 +50,7 @@ std::vector<CapabilityDocument> documents()
             {{"ManyNumbers", {{"{\"a\": [1"}, {",1", 1500000}, {"]"}, {behind}}}},
             {{"ManyObjects", {{"{\"a\": [{}"}, {",{}", 1000000}, {"]"}, {behind}}}},
             {{"ManyKeys", {{"{\"a\": {\"b\": 1"}, {",\"%1\":1", 300000}, {"}"}, {behind}}}},
+            {{"RepeatedKeys", {{"{\"a\": {\"b\": [1]"}, {",\"b\": [1]", 20000}, {"}"}, {behind}}}},
             {{"ManyNestedArrays",
               {{"{\"a\": [0"},
                {"," + QByteArray(1000, '[') + QByteArray(1000, ']'), 1500},

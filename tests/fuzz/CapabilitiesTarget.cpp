@@ -7,6 +7,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
+#include <QSet>
 #include <algorithm>
 
 /// \file
@@ -145,6 +147,22 @@ QString arriving(const QString& reply, const char* entry)
     return entries.value(radio + QLatin1Char('.') + QLatin1String(entry));
 }
 
+/// Whether a document might be refused for what it costs: it is long, or has a string twice, of
+/// which one could be a key that is repeated.
+bool mayBeRefused(const QString& document)
+{
+    static const QRegularExpression string(QStringLiteral("\"[^\"]*\""));
+    QSet<QString> strings;
+    auto match = string.globalMatch(document);
+    while (match.hasNext()) {
+        const QString found = match.next().captured();
+        if (strings.contains(found) || found.contains(QLatin1Char('\\')))
+            return true;
+        strings.insert(found);
+    }
+    return document.size() > 50000;
+}
+
 QString replyWith(const char* entry, const QString& value)
 {
     return pairReply(radio, {{QLatin1String(entry), value}});
@@ -163,8 +181,10 @@ void run(const QString& txMode, const QString& document)
     if (error != AspWebAppNoError)
         return;
     const QString arrived = arriving(capabilities, "wireless_capabilities");
-    const QJsonObject root = QJsonDocument::fromJson(arrived.chopped(1).toUtf8()).object();
     require(bool(facade.getCapabilities()), "an answer gives capabilities");
+    if (facade.getCapabilities()->getData().isEmpty() && mayBeRefused(arrived))
+        return;
+    const QJsonObject root = QJsonDocument::fromJson(arrived.chopped(1).toUtf8()).object();
     expectTree(*facade.getCapabilities(), root);
     const char* bands[] = {"2400", "5000"};
     for (int band = 0; band < 2; ++band) {

@@ -72,6 +72,18 @@ FedGateway::FedGateway(bool speaksNewerDialect, const QStringList& replies)
     AspCpeSessionStorage::getInstance()->setSession(address, QStringLiteral("SID=fed"));
 }
 
+FedGateway::~FedGateway()
+{
+    cpe->setAdslImplementor({});
+    cpe->setWirelessImplementor({});
+    cpe->setWirelessImplementorNG({});
+    cpe->setVoipImplementor({});
+    cpe->setGeneralImplementor({});
+    cpe->setWanImplementor({});
+    cpe->setUsbHostImplementor({});
+    cpe->setParameters({});
+}
+
 QString pairReply(const QString& object, const ParamMap& entries)
 {
     QString reply = QStringLiteral("<response version=\"1.0.1\">");

@@ -28,11 +28,18 @@ private:
 };
 
 /// A gateway of the newest kind, or one that speaks the older dialect, with a session stored.
-struct FedGateway {
+class FedGateway
+{
+public:
     FedGateway(bool speaksNewerDialect, const QStringList& replies);
+    /// Leaves next to nothing of the gateway to a manager of radios, which keeps it for ever.
+    ~FedGateway();
 
     boost::shared_ptr<FedExecutor> executor;
     boost::shared_ptr<Cpe> cpe;
+
+private:
+    Q_DISABLE_COPY(FedGateway)
 };
 
 /// A reply of the newer dialect, whose objects hold an entry each.

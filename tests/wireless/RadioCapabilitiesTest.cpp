@@ -102,6 +102,25 @@ TEST_F(RadioCapabilities, AreEmptyOfATextThatIsNotJson)
     }
 }
 
+TEST_F(RadioCapabilities, AreEmptyIfAnObjectRepeatsAKey)
+{
+    for (const char* document :
+         {R"({"wdsPrefix": [1], "band": {}, "wdsPrefix": [2]})", R"({"band": {}, "\u0062and": {}})",
+          R"({"band": {"a": [{"b \" c": 1, "b \" c" : 2}]}})", R"({"band": {"": 1, "": []}})"}) {
+        EXPECT_EQ(fetch(text(document))->getData(), QVariantMap()) << document;
+    }
+}
+
+TEST_F(RadioCapabilities, MayRepeatAKeyInAnotherObject)
+{
+    const char* const document =
+        R"({"band": {"2400": {"text": "band", "modes": {"text": {}}}, "5000": {"text": "text"}},
+            "apPrefix": ["band", "band"], "wdsPrefix": ["a:", "{", {"band": "wdsPrefix"}]})";
+    const auto capabilities = fetch(text(document));
+    EXPECT_EQ(capabilities->getWdsPrefix().size(), 3);
+    EXPECT_EQ(capabilities->getBand()->getGhz5000()->getText(), text("text"));
+}
+
 TEST_F(RadioCapabilities, AreEmptyIfTheGatewayTellsNone)
 {
     gateway.reply(reply101({{"webapp", "error", "4"}}));
