@@ -53,6 +53,14 @@ TEST_F(QuorvelctlSecrets, AreToldApartFromAnInputThatEndsEarly)
     EXPECT_EQ(result.errors, "quorvelctl: standard input ends before the login password\n");
 }
 
+TEST_F(QuorvelctlSecrets, AreNotTakenFromElsewhereIfTheFileHasNoName)
+{
+    const Outcome result = run("info --password-file=");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, HasSubstr("password-file"));
+    EXPECT_EQ(simulator.requestCount(), 0u);
+}
+
 TEST_F(QuorvelctlSecrets, AWrongCandidateFails)
 {
     const Outcome result = run("password check --candidate-stdin", "wrong\n");
