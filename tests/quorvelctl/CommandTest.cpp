@@ -274,6 +274,16 @@ TEST_F(Quorvelctl, RenewsASessionThatExpiredMeanwhile)
     EXPECT_EQ(simulator.storedValue("warranty-0", "name"), "Ada");
 }
 
+TEST_F(Quorvelctl, ShowsTheSessionThatTheCheckHadToRenew)
+{
+    spoil("session-expired 1 key=check_session");
+    const Outcome result = run("session --show-secrets");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("Valid:   yes\n"));
+    const std::string cookie = result.output.substr(9, result.output.find('\n') - 9);
+    EXPECT_THAT(simulator.exchanges().back().requestHead, HasSubstr("Cookie: " + cookie + "\r\n"));
+}
+
 TEST_F(Quorvelctl, TellsAResultThatCanNotBeWritten)
 {
     QProcess process;
