@@ -132,9 +132,10 @@ public:
     /// on nothing.
     ///
     /// Recognises this object's gateway first if that is still due, as the facade getters do. Empty
-    /// if that fails. Only logins of the new handle reach the gateway: the operations here that log
-    /// in, and a request without a stored session. `take` runs on the thread of the operation and
-    /// must not call into the family that it is called from. The requests hold secrets in clear.
+    /// if that fails. Nothing of the new handle reaches the gateway, and no session is made or
+    /// ended by it: logins count as done, too, and a rehearsed restart or password concerns the new
+    /// handle alone. `take` runs on the thread of the operation and must not call into the family
+    /// that it is called from. The requests hold secrets in clear.
     boost::shared_ptr<AspCpeFacadeObject> rehearse(
         std::function<void(const QString& request)> take);
 

@@ -107,10 +107,16 @@ int run(const Options& options)
     if (!gateway.start(&error) ||
         (options.controlPort >= 0 && !control.listen(options.controlPort, error)))
         return fail(CannotRun, error);
+    const auto writesTranscript = [&] {
+        return options.transcript.empty() || writeTranscript(gateway, options.transcript);
+    };
+    // Tried while there is nothing to lose yet.
+    if (!writesTranscript())
+        return fail(CannotRun, "cannot write " + options.transcript);
     announce(gateway, control);
     waitForTheEnd(signals, control);
     gateway.stop();
-    if (!options.transcript.empty() && !writeTranscript(gateway, options.transcript))
+    if (!writesTranscript())
         return fail(CannotRun, "cannot write " + options.transcript);
     return Clean;
 }

@@ -60,8 +60,6 @@ void Connection::proceed(short ready, const Answer& answer)
 
 void Connection::drop()
 {
-    if (phase == Phase::Holding)
-        return;
     if (phase == Phase::Sending)
         socket.reset();
     else

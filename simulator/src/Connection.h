@@ -29,7 +29,7 @@ public:
 
     /// Goes on as far as it can without waiting; `ready` as in `pollfd::revents`.
     void proceed(short ready, const Answer& answer);
-    /// The gateway goes down: ends the connection, unless it is one that only holds its client.
+    /// The gateway goes down: ends the connection.
     void drop();
 
 private:

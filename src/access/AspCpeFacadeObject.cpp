@@ -99,7 +99,7 @@ bool AspCpeFacadeObject::setAuthenticationInfo(const AuthenticationInfo& info)
     const auto authenticator = general->getAuthenticator();
     if (sameCredentials(*authenticator, info))
         return true;
-    AspCpeSessionStorage::getInstance()->removeSession(authenticator->getCpeAddress());
+    authenticator->forgetSession();
     authenticator->setAuthenticationInfo(info);
     return cpe->ensureSession() == CpeLoginSuccess;
 }
@@ -108,10 +108,8 @@ CpeLoginResult AspCpeFacadeObject::loginToCpe(bool forceLogin)
 {
     if (!getGeneralSettingsFacade())
         return CpeLoginFailed;
-    if (forceLogin) {
-        const QString address = cpe->getGeneralImplementor()->getCpeAddress();
-        AspCpeSessionStorage::getInstance()->removeSession(address);
-    }
+    if (forceLogin)
+        cpe->getGeneralImplementor()->getAuthenticator()->forgetSession();
     return static_cast<CpeLoginResult>(cpe->ensureSession());
 }
 

@@ -13,6 +13,7 @@ public:
     explicit RehearsalBuilder(RehearsalExecutor::Taker take);
 
     bool buildRequestExecutor() override;
+    bool buildAuthenticator(const AuthenticationInfo& info) override;
 
 private:
     const RehearsalExecutor::Taker take;

@@ -4,7 +4,6 @@
 #include "access/ReplyReading.h"
 #include "general/GeneralCall.h"
 #include "general/GeneralKeys.h"
-#include "protocol/AspCpeSessionStorage.h"
 #include "protocol/Vocabulary.h"
 
 namespace quorvel
@@ -75,8 +74,7 @@ int restart(AspGeneralSettingsFacade& facade, AspWebAppErrorCodes& error, Operat
     const int duration = facade.getRebootDuration(error);
     call.ask(&Cpe::getGeneralImplementor, operation);
     logDebug(QStringLiteral("AspGeneralSettingsFacade::rebootCpe successfully executed..."));
-    AspCpeSessionStorage::getInstance()->removeSession(
-        call.cpe()->getGeneralImplementor()->getCpeAddress());
+    call.cpe()->getGeneralImplementor()->getAuthenticator()->forgetSession();
     call.reportError();
     return duration;
 }

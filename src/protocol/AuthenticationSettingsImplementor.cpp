@@ -1,9 +1,16 @@
 #include "protocol/AuthenticationSettingsImplementor.h"
 
+#include "protocol/AspCpeSessionStorage.h"
+
 #include <QMutexLocker>
 
 namespace quorvel
 {
+
+void AuthenticationSettingsImplementor::forgetSession()
+{
+    AspCpeSessionStorage::getInstance()->removeSession(getCpeAddress());
+}
 
 void AuthenticationSettingsImplementor::setAuthenticationInfo(const AuthenticationInfo& newInfo)
 {

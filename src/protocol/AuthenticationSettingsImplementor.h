@@ -21,6 +21,8 @@ public:
     virtual int login(boost::shared_ptr<RequestExecutor> executor) = 0;
     /// The counterpart of login; gateways end sessions by themselves.
     virtual bool logout(boost::shared_ptr<RequestExecutor> executor) = 0;
+    /// Drops the stored session, if there is one, so that the next request logs in.
+    virtual void forgetSession();
 
     void setAuthenticationInfo(const AuthenticationInfo& info);
     QString getUser() const;

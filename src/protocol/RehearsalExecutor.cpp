@@ -9,8 +9,6 @@ RehearsalExecutor::RehearsalExecutor(Taker take) : take(std::move(take)) {}
 
 int RehearsalExecutor::execute(const ParamMap& params, ParamMap& result)
 {
-    if (params.value(HTTP_PARAM_PATH) != QLatin1String("/cgi-bin/webapp"))
-        return HttpRequestExecutor::execute(params, result);
     take(params.value(HTTP_PARAM_DATA_TO_SEND));
     // Readable in both dialects: neither a value nor an error.
     result = {{REQUEST_EXEC_PARAM_RESULT, QStringLiteral("<response/>")}};

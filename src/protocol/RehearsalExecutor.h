@@ -1,15 +1,16 @@
 #pragma once
 
-#include "protocol/HttpRequestExecutor.h"
+#include "protocol/RequestExecutor.h"
+
+#include <QString>
 
 #include <functional>
 
 namespace quorvel
 {
 
-/// Gives the requests for the web application to a taker in place of the gateway, and takes each
-/// for done. Logins are sent.
-class RehearsalExecutor : public HttpRequestExecutor
+/// Gives requests to a taker in place of the gateway, and takes each for done.
+class RehearsalExecutor : public RequestExecutor
 {
 public:
     using Taker = std::function<void(const QString& request)>;
@@ -17,6 +18,8 @@ public:
     explicit RehearsalExecutor(Taker take);
 
     int execute(const ParamMap& params, ParamMap& result) override;
+    /// Nothing is ever under way.
+    void abortPendingRequests() override {}
 
 private:
     const Taker take;

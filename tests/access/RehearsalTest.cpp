@@ -28,6 +28,12 @@ protected:
     /// The commands of the request that was taken as number `index`.
     QString commands(int index) const { return commandLines(taken.value(index)); }
 
+    QString session() const
+    {
+        return AspCpeSessionStorage::getInstance()->getSession(gateway.address());
+    }
+    void endSession() { AspCpeSessionStorage::getInstance()->removeSession(gateway.address()); }
+
     AspCpeFacadeObject object{info()};
     QStringList taken;
     boost::shared_ptr<AspCpeFacadeObject> handle;
@@ -86,29 +92,51 @@ TEST_F(Rehearsal, KnowsTheGatewaysFunctions)
 TEST_F(Rehearsal, LeavesTheGatewaysOwnHandleAlone)
 {
     EXPECT_TRUE(handle->getGeneralSettingsFacade()->setCpePassword(text("new"), error));
-    AspCpeSessionStorage::getInstance()->removeSession(gateway.address());
+    endSession();
     gateway.logIn("SID=2").reply(reply101({{"sysmgr-0", "fwversion", "7.1.2"}}));
     EXPECT_EQ(object.getGeneralSettingsFacade()->getFirmwareVersion(error), text("7.1.2"));
     EXPECT_EQ(form(gateway.requests().size() - 2), QByteArray("user=admin&password=secret"));
 }
 
-TEST_F(Rehearsal, LogsInForARequestWithoutASession)
+TEST_F(Rehearsal, NeedsNoLogin)
 {
-    AspCpeSessionStorage::getInstance()->removeSession(gateway.address());
-    gateway.logIn("SID=2");
+    endSession();
     EXPECT_TRUE(handle->getWanSettingsFacade()->enableWan(text("wan-1"), error));
+    EXPECT_EQ(error, 0);
     EXPECT_EQ(taken.size(), 1);
+    EXPECT_EQ(session(), QString());
 }
 
-TEST_F(Rehearsal, LogsInWithAPasswordThatWasChanged)
+TEST_F(Rehearsal, OfARebootLeavesTheSessionAlone)
 {
-    gateway.reply(reply101({}));
-    EXPECT_TRUE(object.getGeneralSettingsFacade()->setCpePassword(text("new"), error));
-    const auto later = object.rehearse([this](const QString& request) { taken.append(request); });
-    AspCpeSessionStorage::getInstance()->removeSession(gateway.address());
-    gateway.logIn("SID=2");
-    EXPECT_TRUE(later->getWanSettingsFacade()->enableWan(text("wan-1"), error));
-    EXPECT_EQ(form(gateway.requests().size() - 1), QByteArray("user=admin&password=new"));
+    EXPECT_EQ(handle->getGeneralSettingsFacade()->rebootCpe(error), 60003);
+    EXPECT_EQ(error, 0);
+    ASSERT_EQ(taken.size(), 2);
+    EXPECT_EQ(commands(1), text("version 1.0.1\ncommand \"sysmgr-0\" \"reboot\" \"\"\n"));
+    EXPECT_EQ(session(), text("SID=1"));
+}
+
+TEST_F(Rehearsal, OfAResetLeavesTheSessionAlone)
+{
+    EXPECT_EQ(handle->getGeneralSettingsFacade()->factoryDefault(error), 60003);
+    ASSERT_EQ(taken.size(), 2);
+    EXPECT_EQ(commands(1), text("version 1.0.1\ncommand \"cfgmgr-0\" \"factory_default\" \"\"\n"));
+    EXPECT_EQ(session(), text("SID=1"));
+}
+
+TEST_F(Rehearsal, OfChangedCredentialsLeavesTheSessionAlone)
+{
+    EXPECT_TRUE(handle->setAuthenticationInfo(infoWith("other")));
+    EXPECT_EQ(handle->loginToCpe(true), CpeLoginSuccess);
+    EXPECT_EQ(session(), text("SID=1"));
+    EXPECT_EQ(taken, QStringList());
+}
+
+TEST_F(Rehearsal, OfALoginWithoutASessionMakesNone)
+{
+    endSession();
+    EXPECT_EQ(handle->loginToCpe(false), CpeLoginSuccess);
+    EXPECT_EQ(session(), QString());
 }
 
 TEST_F(RecognisedGateway, IsNotRehearsedUnlessItIsRecognised)

@@ -143,6 +143,19 @@ const Case cases[] = {
     {"AnotherSchemeIsWrongUsage", "info --address https://192.0.2.1", 2, "",
      "gateways are reached by plain http only: https://192.0.2.1"},
     {"ASchemeAloneIsWrongUsage", "info --address http://", 2, "", "no address: http://"},
+    {"APortThatThereIsNotIsWrongUsage", "info --address 192.0.2.1:65536", 2, "",
+     "no address: 192.0.2.1:65536"},
+    {"APort0IsWrongUsage", "info --address 192.0.2.1:0", 2, "", "no address: 192.0.2.1:0"},
+    {"APortOfLettersIsWrongUsage", "info --address 192.0.2.1:http", 2, "",
+     "no address: 192.0.2.1:http"},
+    {"AnAddressWithAPathIsWrongUsage", "info --address http://192.0.2.1/index.html", 2, "",
+     "no address: http://192.0.2.1/index.html"},
+    {"AnAddressWithAQueryIsWrongUsage", "info --address 192.0.2.1/?q=1", 2, "",
+     "no address: 192.0.2.1/?q=1"},
+    {"ALoginInAnAddressIsWrongUsage", "info --address ada:secret@192.0.2.1", 2, "",
+     "user and password don't belong to the address; quorvelctl info --help tells more\n"},
+    {"AnEmptyAddressIsWrongUsage", "info --address=", 2, "", "address"},
+    {"AHugeNumberIsWrongUsage", "phone history --line 99999999999999999999", 2, "", "--line"},
     {"TwoSourcesOfOneSecretAreWrongUsage", "info --password-stdin --password-file x", 2, "",
      "excludes"},
     {"APasswordFileThatIsNoneIsWrongUsage", "info --password-file /nonexistent", 2, "",
@@ -203,6 +216,17 @@ TEST_F(Quorvelctl, TakesAnAddressInTheFormsThatPeopleWrite)
     EXPECT_EQ(run("probe --address HTTP://" + simulator.address() + "/").output, tidy);
 }
 
+// The question names the gateway before anything is sent.
+TEST_F(Quorvelctl, PutsBracketsAroundAnAddressThatNeedsThem)
+{
+    const std::string answer = "n\n";
+    for (const std::string address : {"2001:db8::1", "[2001:db8::1]"})
+        EXPECT_THAT(run("reboot --address " + address, answer).errors,
+                    HasSubstr("Restart the gateway at [2001:db8::1]? [y/N]"));
+    EXPECT_THAT(run("reboot --address [2001:db8::1]:8080", answer).errors,
+                HasSubstr("Restart the gateway at [2001:db8::1]:8080? [y/N]"));
+}
+
 TEST_F(Quorvelctl, ProbesWithoutALogin)
 {
     EXPECT_EQ(run("probe").output, "Address: " + simulator.address() + "\nAnswers: yes\n");
@@ -250,6 +274,16 @@ TEST_F(Quorvelctl, RenewsASessionThatExpiredMeanwhile)
     EXPECT_EQ(simulator.storedValue("warranty-0", "name"), "Ada");
 }
 
+TEST_F(Quorvelctl, ShowsTheSessionThatTheCheckHadToRenew)
+{
+    spoil("session-expired 1 key=check_session");
+    const Outcome result = run("session --show-secrets");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_THAT(result.output, HasSubstr("Valid:   yes\n"));
+    const std::string cookie = result.output.substr(9, result.output.find('\n') - 9);
+    EXPECT_THAT(simulator.exchanges().back().requestHead, HasSubstr("Cookie: " + cookie + "\r\n"));
+}
+
 TEST_F(Quorvelctl, TellsAResultThatCanNotBeWritten)
 {
     QProcess process;
@@ -258,6 +292,25 @@ TEST_F(Quorvelctl, TellsAResultThatCanNotBeWritten)
     ASSERT_TRUE(process.waitForFinished(100000));
     EXPECT_EQ(process.exitCode(), 1);
     EXPECT_EQ(process.readAllStandardError().toStdString(), "quorvelctl: can't write the result\n");
+}
+
+TEST_F(Quorvelctl, TellsAResultThatNobodyTakes)
+{
+    const Outcome result = runQuorvelctl("features", {simulator.address(), "admin", {}, {}, ">&-"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "quorvelctl: can't write the result\n");
+}
+
+TEST_F(Quorvelctl, KeepsItsLinesOutOfItsConnections)
+{
+    const std::string undisturbed = run("features").output;
+    simulator.clearExchanges();
+    const Surroundings alone{simulator.address(), "admin", {}, {}, "<&- 2>&-"};
+    const Outcome result = runQuorvelctl("features --log-level debug", alone);
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, undisturbed);
+    for (const auto& exchange : simulator.exchanges())
+        EXPECT_THAT(exchange.replyHead, HasSubstr("HTTP/1.1 200 OK"));
 }
 
 TEST_F(Quorvelctl, ShowsHelpAndVersionWithoutAGateway)
@@ -284,6 +337,25 @@ TEST_F(Quorvelctl, NeverLetsControlCharactersReachTheTerminal)
     EXPECT_EQ(logged.status, 0);
     EXPECT_THAT(logged.errors, HasSubstr("Firmware Version:a\xef\xbf\xbd"
                                          "2Jb\n"));
+}
+
+TEST(QuorvelctlComplaint, NeverLetsControlCharactersReachTheTerminal)
+{
+    const auto scenario = quorvel::simulator::Scenario::fromJson(
+        "{\"base\": \"modern\", \"replies\": [{\"request\": \"<xmlrequest version='1.0.1'><query "
+        "inst='devmgr-0'><key>inst_list</key><value>wan</value></query></xmlrequest>\", \"body\": "
+        "\"<response version='1.0.1'><devmgr-0><key>wan0</key><value>a\xc2\x9b"
+        "2Jb</value></devmgr-0></response>\"}]}",
+        "here");
+    ASSERT_TRUE(scenario);
+    quorvel::simulator::GatewaySimulator gateway(*scenario);
+    ASSERT_TRUE(gateway.start());
+    Surroundings surroundings;
+    surroundings.address = gateway.address();
+    EXPECT_EQ(runQuorvelctl("wan show wan-9", surroundings).errors,
+              "quorvelctl: " + gateway.address() +
+                  " has no WAN 'wan-9', but a\xef\xbf\xbd"
+                  "2Jb\n");
 }
 
 class QuorvelctlOnTheOlderGateway : public QuorvelctlTest

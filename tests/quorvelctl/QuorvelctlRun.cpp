@@ -15,7 +15,7 @@ void start(QProcess& process, const std::string& arguments, const Surroundings& 
     };
     for (const char* name : {"ADDRESS", "USER", "PASSWORD", "CANDIDATE", "NEW_PASSWORD",
                              "PPPOX_PASSWORD", "VPN_PASSWORD", "L2TP_PASSWORD", "PIN", "PUK",
-                             "SIP_PASSWORD", "LINE_RANGE", "PORT_RANGE"})
+                             "SIP_PASSWORD", "LINE_RANGE", "PORT_RANGE", "TOKEN", "USERTOKEN"})
         environment.remove(QLatin1String("QUORVELCTL_") + QLatin1String(name));
     environment.remove(QStringLiteral("OSTRA_CONFIG_FILE"));
     if (!surroundings.address.empty())
@@ -26,8 +26,12 @@ void start(QProcess& process, const std::string& arguments, const Surroundings& 
         set(name.c_str(), value);
 
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(QUORVELCTL),
-                  QString::fromStdString(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    const QString command =
+        QStringLiteral("exec \"$0\" \"$@\" ") + QString::fromStdString(surroundings.redirections);
+    process.start(
+        QStringLiteral("/bin/sh"),
+        QStringList{QStringLiteral("-c"), command, QStringLiteral(QUORVELCTL)} +
+            QString::fromStdString(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts));
 }
 
 Outcome runQuorvelctl(const std::string& arguments, const Surroundings& surroundings)

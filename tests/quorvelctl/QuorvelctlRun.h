@@ -23,7 +23,9 @@ struct Surroundings {
     std::string address;
     std::string password = "admin";
     std::string input;
-    std::map<std::string, std::string> variables;
+    std::map<std::string, std::string> variables = {};
+    /// As a shell understands them.
+    std::string redirections = {};
 };
 
 /// Gives a process its surroundings, and starts quorvelctl in it with arguments separated by

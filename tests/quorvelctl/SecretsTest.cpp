@@ -53,6 +53,14 @@ TEST_F(QuorvelctlSecrets, AreToldApartFromAnInputThatEndsEarly)
     EXPECT_EQ(result.errors, "quorvelctl: standard input ends before the login password\n");
 }
 
+TEST_F(QuorvelctlSecrets, AreNotTakenFromElsewhereIfTheFileHasNoName)
+{
+    const Outcome result = run("info --password-file=");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_THAT(result.errors, HasSubstr("password-file"));
+    EXPECT_EQ(simulator.requestCount(), 0u);
+}
+
 TEST_F(QuorvelctlSecrets, AWrongCandidateFails)
 {
     const Outcome result = run("password check --candidate-stdin", "wrong\n");
@@ -119,6 +127,29 @@ TEST_F(QuorvelctlSecrets, OfAnAccountComeFromStandardInputBehindTheLoginPassword
     EXPECT_EQ(
         simulator.storedValue("voice-0", "VoiceService.VoiceProfile.Line[0].SIP.AuthPassword"),
         "new-secret");
+}
+
+TEST_F(QuorvelctlSecrets, OfTheWarrantyRecordAreShownOnDemandOnly)
+{
+    simulator.setValue("warranty-0", "token", "T-1903");
+    simulator.setValue("warranty-0", "usertoken", "U-1903");
+    EXPECT_THAT(run("warranty show").output, HasSubstr("Token:      ********\n"
+                                                       "User token: ********\n"));
+    EXPECT_THAT(run("warranty show --json").output, HasSubstr("    \"token\": \"********\",\n"
+                                                              "    \"usertoken\": \"********\"\n"));
+    EXPECT_THAT(run("warranty show --show-secrets").output, HasSubstr("Token:      T-1903\n"
+                                                                      "User token: U-1903\n"));
+}
+
+TEST_F(QuorvelctlSecrets, OfTheWarrantyRecordComeFromStandardInputOrTheEnvironment)
+{
+    const Surroundings surroundings{
+        simulator.address(), "admin", "T-1\n", {{"QUORVELCTL_USERTOKEN", "U-1"}}};
+    const Outcome result = runQuorvelctl("warranty set --token-stdin", surroundings);
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(simulator.storedValue("warranty-0", "token"), "T-1");
+    EXPECT_EQ(simulator.storedValue("warranty-0", "usertoken"), "U-1");
+    EXPECT_EQ(run("warranty set --token T-2").status, 2);
 }
 
 TEST_F(QuorvelctlSecrets, AreHiddenInTheLogToo)

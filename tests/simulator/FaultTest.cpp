@@ -74,7 +74,19 @@ TEST_F(FaultTest, HangNeverAnswers)
     expectHealthy();
 }
 
-TEST_F(FaultTest, AHangingConnectionOutlivesARestart)
+TEST_F(FaultTest, ARestartEndsAHangingConnection)
+{
+    inject("hang");
+    RawClient client(gateway.port());
+    client.send(post("/cgi-bin/webapp", write, cookie));
+    ASSERT_TRUE(gateway.waitForRequests(2, seconds(10)));
+    gateway.restart();
+    client.readToEnd();
+    EXPECT_EQ(client.received(), "");
+    EXPECT_EQ(client.ending(), Ending::Closed);
+}
+
+TEST_F(FaultTest, AHangingConnectionOutlivesTheRestartThatItOrdered)
 {
     inject("hang");
     RawClient client(gateway.port());

@@ -149,6 +149,14 @@ TEST(ProgramTest, WritesAMaskedTranscriptAtTheEnd)
     EXPECT_THAT(text.str(), HasSubstr("user=admin&password=********"));
 }
 
+TEST(ProgramTest, ATranscriptThatCannotBeWrittenIsToldAtOnce)
+{
+    Program program({"--transcript", "/nonexistent/transcript.txt"});
+    EXPECT_EQ(program.wait(), 1);
+    EXPECT_EQ(program.output(), "");
+    EXPECT_EQ(program.errors(), "quorvel-gateway-sim: cannot write /nonexistent/transcript.txt\n");
+}
+
 TEST(ProgramTest, ListsItsScenarios)
 {
     Program program({"--list-scenarios"});

@@ -1,5 +1,7 @@
 #include "DryRun.h"
 
+#include "Masking.h"
+
 #include <QXmlStreamReader>
 
 namespace quorvelctl
@@ -7,11 +9,6 @@ namespace quorvelctl
 
 namespace
 {
-
-bool isSecret(const QString& key)
-{
-    return key.startsWith(QLatin1String("password"));
-}
 
 /// The command at whose opening tag the reader is.
 Record commandIn(QXmlStreamReader& reader)
@@ -27,7 +24,7 @@ Record commandIn(QXmlStreamReader& reader)
     return {{QStringLiteral("command"), QStringLiteral("Command"), command},
             {QStringLiteral("instance"), QStringLiteral("Object"), instance},
             {QStringLiteral("key"), QStringLiteral("Key"), key},
-            {QStringLiteral("value"), QStringLiteral("Value"), value, isSecret(key)}};
+            {QStringLiteral("value"), QStringLiteral("Value"), value, isSecretKey(key)}};
 }
 
 } // namespace

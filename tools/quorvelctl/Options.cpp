@@ -4,6 +4,8 @@
 
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
+#include <QHostAddress>
+#include <QUrl>
 #include <iostream>
 #include <limits>
 #include <map>
@@ -20,17 +22,29 @@ const std::map<std::string, int> levels{{"debug", 96},
                                         {"error", 182},
                                         {"off", std::numeric_limits<int>::max()}};
 
+/// Whether this is a host and perhaps a port.
+bool isAddress(const QString& text)
+{
+    const QUrl url(QLatin1String("http://") + text);
+    return url.isValid() && !url.host().isEmpty() && url.port(80) > 0 && url.path().isEmpty() &&
+           !url.hasQuery() && !url.hasFragment();
+}
+
 /// Makes an address what the library takes, or tells why it can't be one.
 std::string normalizeAddress(std::string& address)
 {
     QString text = QString::fromStdString(address).trimmed();
+    if (text.contains(QLatin1Char('@')))
+        return "user and password don't belong to the address";
     if (text.startsWith(QLatin1String("http://"), Qt::CaseInsensitive))
         text.remove(0, 7);
     if (text.contains(QLatin1String("://")))
         return "gateways are reached by plain http only: " + address;
     while (text.endsWith(QLatin1Char('/')))
         text.chop(1);
-    if (text.isEmpty())
+    if (QHostAddress(text).protocol() == QAbstractSocket::IPv6Protocol)
+        text = QLatin1Char('[') + text + QLatin1Char(']');
+    if (!isAddress(text))
         return "no address: " + address;
     address = text.toStdString();
     return std::string();

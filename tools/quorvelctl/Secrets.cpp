@@ -120,8 +120,8 @@ bool SecretSource::isGiven() const
 
 QString SecretSource::read() const
 {
-    if (!file.empty())
-        return firstLineOf(file);
+    if (file)
+        return firstLineOf(*file);
     if (fromStdin)
         return nextLineOfStdin(meaning);
     if (qEnvironmentVariableIsSet(variable.c_str()))

@@ -2,6 +2,7 @@
 
 #include <CLI/App.hpp>
 #include <QString>
+#include <optional>
 #include <string>
 
 namespace quorvelctl
@@ -25,7 +26,7 @@ public:
 
     bool isGiven() const;
     /// Whether an option gives it, so that it is meant for this very run.
-    bool isGivenByOption() const { return !file.empty() || fromStdin; }
+    bool isGivenByOption() const { return file || fromStdin; }
 
     /// The secret: the first line of the file, else the next line of standard input, else the
     /// variable. Fails as wrong usage if none of them is given, or the file can't be read.
@@ -35,7 +36,7 @@ private:
     std::string name;
     std::string variable;
     std::string meaning;
-    std::string file;
+    std::optional<std::string> file;
     bool fromStdin = false;
 };
 

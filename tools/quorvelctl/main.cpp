@@ -1,4 +1,5 @@
 #include "Failure.h"
+#include "Output.h"
 #include "Session.h"
 #include "commands/Commands.h"
 #include "manual/Manual.h"
@@ -64,7 +65,8 @@ int run(CLI::App& app, int argc, char** argv)
         return WrongUsage;
     } catch (const Failure& failure) {
         std::cout.flush();
-        std::cerr << "quorvelctl: " << failure.message.toStdString() << '\n';
+        // A message may name what the gateway names.
+        std::cerr << "quorvelctl: " << printable(failure.message).toStdString() << '\n';
         return failure.status;
     }
 }

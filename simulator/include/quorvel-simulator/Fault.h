@@ -17,8 +17,8 @@ enum class FaultKind {
     /// `reset`: the connection is reset in the middle of the reply. Argument: bytes sent before
     /// that; half of the reply unless given.
     Reset,
-    /// `hang`: no reply, the connection stays open until the client gives up, also while the
-    /// gateway restarts.
+    /// `hang`: no reply, the connection stays open until the client gives up or the gateway goes
+    /// down; but the restart that the request itself orders leaves it open.
     Hang,
     /// `delay`: the whole reply, but late. Argument: milliseconds (1000).
     Delay,

@@ -138,10 +138,19 @@ void managers(Session& session)
 void showSession(Session& session)
 {
     Gateway& gateway = session.gateway();
-    const QString id = gateway.general().getCurrentSessionId();
-    const bool valid = gateway.ask(word("check the session"), [&](AspWebAppErrorCodes& error) {
-        return gateway.general().checkSession(id, error);
-    });
+    const auto current = [&] { return gateway.general().getCurrentSessionId(); };
+    QString id = current();
+    const auto isValid = [&] {
+        return gateway.ask(word("check the session"), [&](AspWebAppErrorCodes& error) {
+            return gateway.general().checkSession(id, error);
+        });
+    };
+    bool valid = isValid();
+    // An expired session is renewed by the question itself, which is about the old one then.
+    if (id != current()) {
+        id = current();
+        valid = isValid();
+    }
     session.output().print(
         {secretField(word("session"), word("Session"), id), plainField("valid", "Valid", valid)});
 }

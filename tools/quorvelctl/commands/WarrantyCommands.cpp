@@ -13,18 +13,28 @@ namespace quorvelctl
 namespace
 {
 
-const struct {
+using Info = AspDeviceWarrantyInformation;
+
+const struct Text {
     const char* key;
     const char* heading;
-    QString AspDeviceWarrantyInformation::*text;
-} fields[] = {{"name", "Name", &AspDeviceWarrantyInformation::name},
-              {"email", "Mail", &AspDeviceWarrantyInformation::email},
-              {"phone", "Phone", &AspDeviceWarrantyInformation::phone},
-              {"token", "Token", &AspDeviceWarrantyInformation::token},
-              {"usertoken", "User token", &AspDeviceWarrantyInformation::usertoken},
-              {"timestamp", "Time stamp", &AspDeviceWarrantyInformation::timestamp}};
+    QString Info::*text;
+    /// The environment variable of one that is a secret; null for the others.
+    const char* variable = nullptr;
+} texts[] = {{"name", "Name", &Info::name},
+             {"email", "Mail", &Info::email},
+             {"phone", "Phone", &Info::phone},
+             {"token", "Token", &Info::token, "QUORVELCTL_TOKEN"},
+             {"usertoken", "User token", &Info::usertoken, "QUORVELCTL_USERTOKEN"},
+             {"timestamp", "Time stamp", &Info::timestamp}};
 
-AspDeviceWarrantyInformation read(Gateway& gateway)
+/// What is to be written: texts, and where secrets come from.
+struct Given {
+    std::map<std::string, std::string> texts;
+    std::map<std::string, SecretSource> secrets;
+};
+
+Info read(Gateway& gateway)
 {
     return gateway.ask(QStringLiteral("read the warranty record"), [&](auto& error) {
         return gateway.general().getWarrantyInformation(error);
@@ -33,25 +43,39 @@ AspDeviceWarrantyInformation read(Gateway& gateway)
 
 void show(Session& session)
 {
-    const AspDeviceWarrantyInformation info = read(session.gateway());
+    const Info info = read(session.gateway());
     Record record;
-    for (const auto& field : fields)
-        record.append(
-            {QString::fromLatin1(field.key), QString::fromLatin1(field.heading), info.*field.text});
+    for (const Text& text : texts)
+        record.append({QString::fromLatin1(text.key), QString::fromLatin1(text.heading),
+                       info.*text.text, text.variable != nullptr});
     session.output().print(record);
 }
 
-void set(Session& session, const std::map<std::string, std::string>& given)
+/// The texts that are given, secrets among them; an empty one clears what the gateway has.
+std::map<std::string, QString> newTexts(Session& session, const Given& given)
 {
-    if (given.empty())
+    std::map<std::string, QString> found;
+    for (const auto& [key, text] : given.texts)
+        found[key] = QString::fromStdString(text);
+    for (const auto& [key, source] : given.secrets) {
+        if (source.isGiven())
+            found[key] = session.readSecret(source);
+    }
+    if (found.empty())
         throw Failure{WrongUsage, QStringLiteral("name at least one text of the record")};
+    return found;
+}
+
+void set(Session& session, const Given& given)
+{
+    const auto changed = newTexts(session, given);
     Gateway& gateway = session.gateway();
     // The gateway replaces the whole record, so what isn't named is written back as it is.
-    AspDeviceWarrantyInformation info = read(gateway);
-    for (const auto& field : fields) {
-        const auto text = given.find(field.key);
-        if (text != given.end())
-            info.*field.text = QString::fromStdString(text->second);
+    Info info = read(gateway);
+    for (const Text& text : texts) {
+        const auto change = changed.find(text.key);
+        if (change != changed.end())
+            info.*text.text = change->second;
     }
     gateway.demand(QStringLiteral("write the warranty record"), [&](auto& error) {
         return gateway.general().setWarrantyInformation(info, error);
@@ -68,14 +92,16 @@ void addWarrantyCommands(CLI::App& app, Session& session)
         show(session);
     });
     auto* write = group->add_subcommand("set", "Change texts of the warranty record");
-    const auto given = std::make_shared<std::map<std::string, std::string>>();
-    for (const auto& field : fields)
-        write->add_option_function<std::string>(
-            std::string("--") + field.key,
-            [given, key = std::string(field.key)](const std::string& text) {
-                (*given)[key] = text;
-            },
-            std::string("New text of the field ") + field.key);
+    const auto given = std::make_shared<Given>();
+    for (const Text& text : texts) {
+        const std::string key = text.key;
+        if (text.variable)
+            given->secrets[key].addTo(*write, key, text.variable, key);
+        else
+            write->add_option_function<std::string>(
+                "--" + key, [given, key](const std::string& words) { given->texts[key] = words; },
+                "New text of the field " + key);
+    }
     write->callback([&session, given] { set(session, *given); });
 }
 
