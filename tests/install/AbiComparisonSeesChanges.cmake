@@ -22,6 +22,8 @@ plant(include/quorvel/AspDhcpsClient.h "    QString hostname;" "    QString plan
 # Another type of the same size.
 plant(include/quorvel/AspWirelessSettings.h "QString freq;" "QByteArray freq;")
 plant(include/quorvel/AspWirelessStatus.h "AspWirelessDisabled = 1" "AspWirelessDisabled = 8")
+# What breaks nobody is told, too: it belongs into the baseline.
+plant(include/quorvel/AspWpsRole.h "AspWpsRoleUnknown = 2" "AspWpsPlanted = 3,\n    AspWpsRoleUnknown = 2")
 # Virtual functions in another order.
 plant(include/quorvel/AspWirelessSettingsFacadeImplementor.h
     "virtual QString getManager() = 0;\n" "")
@@ -45,6 +47,7 @@ foreach(change
         "'QString hostname' offset changed from 128 to 192 "
         "type of 'QString freq' changed:\n *type name changed from 'QString' to 'QByteArray'"
         "'quorvel::AspWirelessStatus::AspWirelessDisabled' from value '1' to '8'"
+        "'quorvel::AspWpsRole::AspWpsPlanted' value '3'"
         "AspWirelessSettingsFacadeImplementor::getManager\\(\\) changed from 16 to 6"
         "quorvel::AspUsbHostSettingsFacade':\n *type size changed from 256 to 384 [^\n]*\n *1 base class insertion:\n *struct quorvel::AspUsbHostInstList"
         "'method bool quorvel::AspUsbHostSettingsFacade::diskMount[^\n]*\n *return type changed:\n *type name changed from 'bool' to 'int'")
