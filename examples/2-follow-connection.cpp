@@ -8,7 +8,9 @@
 #include <QCoreApplication>
 #include <QThread>
 #include <QTimer>
+#include <cstdlib>
 #include <iostream>
+#include <limits>
 
 using namespace quorvel;
 

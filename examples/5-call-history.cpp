@@ -5,6 +5,7 @@
 #include <quorvel/QuorvelApi1.h>
 
 #include <QCoreApplication>
+#include <cstdlib>
 #include <iostream>
 
 using namespace quorvel;

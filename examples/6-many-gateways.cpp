@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QThreadPool>
 #include <iostream>
+#include <vector>
 
 using namespace quorvel;
 

@@ -130,7 +130,7 @@ class Reader:
 
     def follow(self):
         done = {"sh": self._sh, "console": self._console, "cpp": self._cpp, "cmake": self._cmake,
-                "json": self._json, "text": lambda block: None}
+                "json": self._json, "text": self._text}
         text = (self._clone / self._document).read_text()
         for block in blocks_of(self._document, text):
             if block.language not in done:
@@ -166,6 +166,10 @@ class Reader:
         if status != 0:
             raise Wrong(f"{block}: status {status} from: {command}\n{output}")
         return output
+
+    def _text(self, block):
+        if re.search(r"^\$ ", block.text, re.MULTILINE):
+            raise Wrong(f"{block}: a command that nobody runs")
 
     def _sh(self, block):
         for command in block.text.replace("\\\n", " ").splitlines():

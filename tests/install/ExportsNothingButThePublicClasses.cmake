@@ -2,18 +2,6 @@
 # environment rewrites the lists.
 include(${CMAKE_CURRENT_LIST_DIR}/steps.cmake)
 
-# A library's symbols without addresses and, as constructors have several, without repetitions.
-function(read_exports library result)
-    run_step(nm --dynamic --defined-only --demangle --format=posix ${library})
-    string(REGEX REPLACE " [A-Za-z] [0-9a-f]+( [0-9a-f]+)?\n" "\n" names "${step_output}")
-    string(STRIP "${names}" names)
-    string(REPLACE "\n" ";" names "${names}")
-    list(SORT names)
-    list(REMOVE_DUPLICATES names)
-    list(JOIN names "\n" names)
-    set(${result} "${names}\n" PARENT_SCOPE)
-endfunction()
-
 file(MAKE_DIRECTORY ${WORK_DIR})
 foreach(library src/libQuorvelApi1 platform/libQuorvelPlatform)
     get_filename_component(name ${library} NAME)

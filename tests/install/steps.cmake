@@ -54,3 +54,15 @@ function(build_sub_project build)
     build_project(${CMAKE_CURRENT_LIST_DIR}/sub_project ${build}
         -DQUORVEL_SOURCES=${SOURCE_DIR} ${ARGN})
 endfunction()
+
+# A library's symbols without addresses and, as constructors have several, without repetitions.
+function(read_exports library result)
+    run_step(nm --dynamic --defined-only --demangle --format=posix ${library})
+    string(REGEX REPLACE " [A-Za-z] [0-9a-f]+( [0-9a-f]+)?\n" "\n" names "${step_output}")
+    string(STRIP "${names}" names)
+    string(REPLACE "\n" ";" names "${names}")
+    list(SORT names)
+    list(REMOVE_DUPLICATES names)
+    list(JOIN names "\n" names)
+    set(${result} "${names}\n" PARENT_SCOPE)
+endfunction()
