@@ -262,6 +262,42 @@ TEST_F(QuorvelctlWifiOnTheOlderGateway, NeedsNoNameForItsOnlyRadio)
     EXPECT_EQ(result.output, "WPS of wireless_core-0 is on.\n");
 }
 
+// U+009B starts a command of a terminal.
+TEST(QuorvelctlWifiOnAHostileGateway, NeverLetsControlCharactersReachTheTerminal)
+{
+    auto scenario = *quorvel::simulator::Scenario::load("dual");
+    const std::string radio = "wireless_core-0\xc2\x9b"
+                              "2J";
+    const auto command = [](const std::string& key, const std::string& value) {
+        return "<command inst=\"cfgmgr-0\"><key>" + key + "</key><value>" + value +
+               "</value></command>";
+    };
+    scenario.replies.push_back(
+        {"<xmlrequest version=\"1.0.1\">"
+         "<query inst=\"devmgr-0\"><key>inst_list</key><value>wireless_core</value></query>"
+         "<query inst=\"devmgr-0\"><key>inst_list</key><value>wireless</value></query>"
+         "</xmlrequest>",
+         200,
+         "<response version=\"1.0.1\"><devmgr-0><key>wireless_core.inst0</key><value>" + radio +
+             "</value></devmgr-0></response>"});
+    scenario.replies.push_back(
+        {"<xmlrequest version=\"1.0.1\">" + command("begin_transaction", radio) + "<set inst=\"" +
+             radio + "\"><key>wps_enabled</key><value>0</value></set>" + command("commit", radio) +
+             command("end_transaction", radio) + "<command inst=\"" + radio +
+             "\"><key>apply</key><value></value></command>" + command("save", "") + "</xmlrequest>",
+         200, "<response version=\"1.0.1\"/>"});
+    quorvel::simulator::GatewaySimulator gateway(scenario);
+    std::string error;
+    ASSERT_TRUE(gateway.start(&error)) << error;
+    const Outcome result = runQuorvelctl("wifi wps off", {gateway.address(), "admin", {}, {}});
+    EXPECT_EQ(result.output, "WPS of wireless_core-0\xef\xbf\xbd"
+                             "2J is off.\n");
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(runQuorvelctl("wifi wps on", {gateway.address(), "admin", {}, {}}).errors,
+              "quorvelctl: can't switch WPS at wireless_core-0\xef\xbf\xbd"
+              "2J: the gateway reports error 5\n");
+}
+
 TEST(QuorvelctlWifiOnAGatewayWithoutARadio, SaysSo)
 {
     auto scenario = *quorvel::simulator::Scenario::load("modern");
