@@ -239,6 +239,23 @@ TEST_F(QuorvelctlWifi, TellsAnEmptyNetworkFromOneThatIsNotTold)
     EXPECT_EQ(untold.errors, "quorvelctl: who is connected isn't told by wireless-0\n");
 }
 
+TEST_F(QuorvelctlWifi, TellsNoMeshLinksFromThoseThatAreNotTold)
+{
+    simulator.setStatus("wireless-0", "wireless_capabilities", R"({"band": {}})");
+    EXPECT_EQ(run("wifi mesh --radio wireless-0").output, "No mesh links.\n");
+    simulator.setStatus("wireless-0", "wireless_capabilities", "no JSON");
+    const Outcome some = run("wifi mesh");
+    EXPECT_EQ(some.status, 0);
+    EXPECT_EQ(some.output, "RADIO            MAC                ENABLED\n"
+                           "wireless_core-0  02:00:5E:30:02:01  yes\n"
+                           "wireless_core-0  02:00:5E:30:02:02  no\n");
+    EXPECT_EQ(some.errors, "quorvelctl: which mesh links there are isn't told by wireless-0\n");
+    const Outcome none = run("wifi mesh --radio wireless-0 --json");
+    EXPECT_EQ(none.status, 1);
+    EXPECT_EQ(none.output, "");
+    EXPECT_EQ(none.errors, "quorvelctl: which mesh links there are isn't told by wireless-0\n");
+}
+
 class QuorvelctlWifiOnTheOlderGateway : public QuorvelctlTest
 {
 protected:
