@@ -145,6 +145,27 @@ TEST_F(QuorvelctlWifiSet, ChangesTheSecurityMode)
     EXPECT_EQ(stored("wireless_ap-0", "wpa_password"), "radio-secret-2001");
 }
 
+// A new key is written as the first, which does nothing while another one is in use.
+TEST_F(QuorvelctlWifiSet, ChangesNoWepKeyThatIsNotInUse)
+{
+    simulator.setValue("wireless_ap-0", "sec_mode", "wep");
+    simulator.setValue("wireless_ap-0", "wep_key_index", "2");
+    simulator.setValue("wireless_ap-0", "wep_key1", "first");
+    const Outcome refused = run("wifi set" + older + "--key-stdin", "other\n");
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(refused.errors, "quorvelctl: wireless_core-0 uses WEP key 2, and only key 1 can be "
+                              "changed: add --wep-key-index 1\n");
+    EXPECT_EQ(stored("wireless_ap-0", "wep_key1"), "first");
+    EXPECT_EQ(run("wifi set" + older + "--key-stdin --wep-key-index 1", "other\n").status, 0);
+    EXPECT_EQ(stored("wireless_ap-0", "wep_key1"), "other");
+    EXPECT_EQ(stored("wireless_ap-0", "wep_key_index"), "1");
+    simulator.setValue("wireless-0", "ap0_security_mode", "wep");
+    simulator.setValue("wireless-0", "ap0_wep_keyindex", "4");
+    EXPECT_EQ(run("wifi set" + newer + "--on --key-stdin", "other\n").errors,
+              "quorvelctl: wireless-0 uses WEP key 4, and only key 1 can be changed\n");
+    EXPECT_EQ(stored("wireless-0", "ap0_wep_key1"), "");
+}
+
 TEST_F(QuorvelctlWifiSet, LeavesANetworkWithoutAKeyThatHasNone)
 {
     simulator.setValue("wireless_ap-0", "wpa_password", "");
@@ -219,6 +240,10 @@ const Refusal refusals[] = {
      "--on or --off"},
     {"WithALongName", older + "--ssid 123456789012345678901234567890123", "", 2,
      "the name of a network has 1 to 32 bytes, not 33"},
+    {"WithAWepKeyThatIsNone", older + "--wep-key-index 5", "", 2,
+     "the WEP keys are 1 to 4, and not '5'"},
+    {"WithControlCharacters", older + "--ssid Ho\x01me", "", 2,
+     "no control characters can be written"},
     {"WithAnUnknownMode", newer + "--on --security wep", "", 2,
      "wireless-0 has no security mode 'wep', but off, wpa2"},
     {"WithWepDetailsOfANewerRadio", newer + "--on --wep-key-index 2", "", 2,
@@ -234,11 +259,29 @@ const Refusal refusals[] = {
      "standard input ends before the new key of wireless_core-0"},
     {"WithAVariableThatIsNotThere", older + "--key-env NO_SUCH_VARIABLE", "", 2,
      "no new key of wireless_core-0: there is no environment variable NO_SUCH_VARIABLE"},
+    {"BothOnAndOff", older + "--on --off", "", 2, "the state is given twice for wireless_core-0"},
+    {"WithTwoNames", newer + "--ssid Home --on --ssid Attic", "", 2,
+     "the ssid is given twice for wireless-0"},
+    {"WithTwoKeys", older + "--key-stdin --key-file /nonexistent", "new secret key\n", 2,
+     "the key is given twice for wireless_core-0"},
+    {"WithTwoModesOfTheOnlyRadio", " --security off --security wep", "", 2,
+     "the security is given twice"},
     {"WithAFileThatIsNotThere", older + "--key-file /nonexistent", "", 2,
      "can't read /nonexistent: No such file or directory"}};
 
 INSTANTIATE_TEST_SUITE_P(All, QuorvelctlWifiSetRefused, testing::ValuesIn(refusals),
                          [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(QuorvelctlWifiSet, QuotesTheGatewayWithoutItsControlCharacters)
+{
+    simulator.setStatus("wireless-0", "wireless_capabilities",
+                        R"({"band": {"5000": {"modes": {"11ac": {"securityModes":
+                            {"a\u001b[2J\n\u009bb": {}}}}}}})");
+    EXPECT_EQ(run("wifi set" + newer + "--on --security wep").errors,
+              "quorvelctl: wireless-0 has no security mode 'wep', but "
+              "a\xef\xbf\xbd[2J\xef\xbf\xbd\xef\xbf\xbd"
+              "b\n");
+}
 
 TEST_F(QuorvelctlWifiSet, SendsNothingIfTheCommandLineIsWrong)
 {
