@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
+#include <type_traits>
 
 namespace quorvel::test
 {
@@ -68,6 +69,21 @@ const char* const wholeDocument = R"({
             'modes': {'an': {}}}}})";
 
 } // namespace
+
+TEST(CapabilityTree, ConsistsOfClassesOutsideAnyNamespaceThatMayBeDerivedFrom)
+{
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Capabilities>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Band>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Ghz>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Channels>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Channel>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Modes>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Mode>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::SecurityModes>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::SecurityMode>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Chanbws>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Bws>);
+}
 
 TEST(CapabilityTree, HoldsEveryFieldOfADocument)
 {
