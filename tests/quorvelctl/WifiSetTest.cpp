@@ -325,6 +325,30 @@ TEST(QuorvelctlWifiSetWithTwoOlderRadios, WritesTheFirstOnly)
     EXPECT_EQ(gateway.storedValue("wireless_ap-0", "ssid"), "quorvel-0417");
 }
 
+TEST(QuorvelctlWifiSetInTheOlderDialect, WritesOneOlderRadioAtATime)
+{
+    auto scenario = *quorvel::simulator::Scenario::load("dual");
+    scenario.dialect = "1.0.0";
+    quorvel::simulator::GatewaySimulator gateway(scenario);
+    std::string error;
+    ASSERT_TRUE(gateway.start(&error)) << error;
+    const Surroundings surroundings{gateway.address(), "admin", {}, {}};
+    const std::string reason = ": the gateway's dialect 1.0.0 knows only one older radio at a time";
+    for (const auto& [radios, names] :
+         {std::pair<std::string, std::string>(" --radio all ", "wireless-0, wireless_core-0"),
+          {newer, "wireless-0"}}) {
+        const Outcome result =
+            runQuorvelctl("wifi set" + radios + "--ssid Home --on", surroundings);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.errors,
+                  "quorvelctl: can't write the settings of " + names + reason + "\n");
+    }
+    EXPECT_EQ(gateway.storedValue("wireless_ap-0", "ssid"), "quorvel-2001");
+    EXPECT_EQ(gateway.storedValue("wireless-0", "ap0_ssid"), "quorvel-2001-5g");
+    EXPECT_EQ(runQuorvelctl("wifi set" + older + "--ssid Home", surroundings).status, 0);
+    EXPECT_EQ(gateway.storedValue("wireless_ap-0", "ssid"), "Home");
+}
+
 TEST_F(QuorvelctlWifiSetOnTheOlderGateway, TellsAWriteThatWasRefused)
 {
     spoil("error:9 key=apply");
