@@ -278,6 +278,19 @@ TEST(CapabilityTree, LeavesFieldsOfTheWrongKindEmpty)
     EXPECT_EQ(widths.at(0)->getText(), QString());
 }
 
+TEST(CapabilityTree, TakesWhateverConvertsToWhatIsWanted)
+{
+    Mode mode;
+    mode.setData({{text("text"), QByteArray("802.11 n")},
+                  {text("chanbws"),
+                   QVariantHash{{text("20"), QVariantHash{{text("rates"), lines({"54M"})}}}}}});
+    mode.parse();
+    EXPECT_EQ(mode.getText(), text("802.11 n"));
+    ASSERT_TRUE(mode.getChanbws());
+    ASSERT_EQ(names(mode.getChanbws()->getItems()), lines({"20"}));
+    EXPECT_EQ(texts(mode.getChanbws()->getItems().at(0)->getRates()), lines({"54M"}));
+}
+
 TEST(CapabilityTree, OutlivesItsRootWhereAHostKeepsANode)
 {
     const auto modes = ghz("{'modes':{'n':{'text':'802.11 n'}}}")->getModes();

@@ -41,10 +41,13 @@ TEST_F(OlderRadioWrite, IsSwitchedOffByEveryStatusButEnabled)
 
 TEST_F(OlderRadioWrite, WritesAnEmptyStatusWithAnotherInstance)
 {
-    gateway.reply(answered);
-    older->setManager(text("wireless_core-3"));
-    EXPECT_TRUE(older->setWirelessSettings(AspWirelessEnabled, wholeRecord("off"), error));
-    EXPECT_TRUE(transcript(gateway).contains(text("\nset \"wireless_core-0\" \"enabled\" \"\"\n")));
+    for (const char* instance : {"wireless_core-3", ""}) {
+        gateway.reply(answered);
+        older->setManager(text(instance));
+        EXPECT_TRUE(older->setWirelessSettings(AspWirelessEnabled, wholeRecord("off"), error));
+        EXPECT_TRUE(transcript(gateway.requests().last())
+                        .contains(text("\nset \"wireless_core-0\" \"enabled\" \"\"\n")));
+    }
 }
 
 TEST_F(OlderRadioWrite, CountsALostReplyToAWriteAsSuccess)
