@@ -145,6 +145,52 @@ TEST_F(QuorvelctlWifiSet, ChangesTheSecurityMode)
     EXPECT_EQ(stored("wireless_ap-0", "wpa_password"), "radio-secret-2001");
 }
 
+TEST_F(QuorvelctlWifiSet, TakesTheLengthsThatPassPhrasesCanHave)
+{
+    const auto rekey = [&](const std::string& key) {
+        return run("wifi set" + older + "--key-stdin", key + "\n").status;
+    };
+    for (const std::string& key :
+         {std::string("12345678"), std::string(63, 'k'), std::string(64, 'F')}) {
+        EXPECT_EQ(rekey(key), 0) << key;
+        EXPECT_EQ(stored("wireless_ap-0", "wpa_password"), key);
+    }
+    for (const std::string& key : {std::string("1234567"), std::string(64, 'k'),
+                                   std::string(65, 'F'), std::string("pass phr\xc3\xa4se")})
+        EXPECT_EQ(rekey(key), 2) << key;
+    EXPECT_EQ(stored("wireless_ap-0", "wpa_password"), std::string(64, 'F'));
+}
+
+TEST_F(QuorvelctlWifiSet, CountsNamesInBytes)
+{
+    std::string name = "ab";
+    for (int i = 0; i < 10; ++i)
+        name += "\xe2\x82\xac";
+    EXPECT_EQ(run("wifi set" + older + "--ssid " + name).status, 0);
+    EXPECT_EQ(stored("wireless_ap-0", "ssid"), name);
+    EXPECT_EQ(run("wifi set" + older + "--ssid x" + name).errors,
+              "quorvelctl: the name of a network has 1 to 32 bytes, not 33\n");
+}
+
+TEST_F(QuorvelctlWifiSet, GuessesNoState)
+{
+    simulator.setValue("wireless_core-0", "enabled", "2");
+    const Outcome result = run("wifi set" + older + "--ssid Garden");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "quorvelctl: wireless_core-0 doesn't tell whether it is on, and is "
+                             "switched on or off with each change: add --on or --off\n");
+    EXPECT_EQ(stored("wireless_ap-0", "ssid"), "quorvel-2001");
+}
+
+TEST_F(QuorvelctlWifiSet, TakesAnyModeForARadioThatTellsNone)
+{
+    simulator.setStatus("wireless-0", "wireless_capabilities", "no JSON");
+    const Outcome result = run("wifi set" + newer + "--on --security WEP --key-stdin", "abcde\n");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(stored("wireless-0", "ap0_security_mode"), "WEP");
+    EXPECT_EQ(stored("wireless-0", "ap0_wep_key1"), "abcde");
+}
+
 // A new key is written as the first, which does nothing while another one is in use.
 TEST_F(QuorvelctlWifiSet, ChangesNoWepKeyThatIsNotInUse)
 {
