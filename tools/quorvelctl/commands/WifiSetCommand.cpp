@@ -327,14 +327,6 @@ void addTextOptions(CLI::App& command, const std::shared_ptr<Changes>& changes)
                   });
 }
 
-/// What an option names, which must be something.
-const std::string& expectNamed(const char* option, const std::string& argument)
-{
-    if (argument.empty())
-        complain(QStringLiteral("%1 names nothing").arg(QLatin1String(option)));
-    return argument;
-}
-
 void takeKey(Change& change, const SecretSource& source)
 {
     expectFirst(!change.keySource, "key", change);
@@ -352,14 +344,12 @@ void addKeyOptions(CLI::App& command, const std::shared_ptr<Changes>& changes)
     addOption(command, changes, "--key-file", "FILE",
               "Read the new key from the first line of this file",
               [](Change& change, const std::string& path) {
-                  takeKey(change, SecretSource::inFile(meaningOfKey(change),
-                                                       expectNamed("--key-file", path)));
+                  takeKey(change, SecretSource::inFile(meaningOfKey(change), path));
               });
     addOption(command, changes, "--key-env", "VARIABLE",
               "Read the new key from this environment variable",
               [](Change& change, const std::string& variable) {
-                  takeKey(change, SecretSource::inVariable(meaningOfKey(change),
-                                                           expectNamed("--key-env", variable)));
+                  takeKey(change, SecretSource::inVariable(meaningOfKey(change), variable));
               });
     addFlag(command, changes, "--key-stdin", "Read the new key from a line of standard input",
             [](Change& change) { takeKey(change, SecretSource::onStdin(meaningOfKey(change))); });
