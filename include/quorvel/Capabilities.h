@@ -288,9 +288,9 @@ public:
     void setName(const QString& value) { name = value; }
     /// @}
 
-    /// The 2.4 GHz band.
+    /// The 2.4 GHz band. Null if the gateway tells none.
     boost::shared_ptr<Ghz> getGhz2400() const { return ghz2400; }
-    /// The 5 GHz band.
+    /// The 5 GHz band. Null if the gateway tells none.
     boost::shared_ptr<Ghz> getGhz5000() const { return ghz5000; }
 
     void parse(); ///< Makes the fields and the nodes below from the data.

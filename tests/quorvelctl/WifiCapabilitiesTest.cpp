@@ -76,6 +76,13 @@ TEST_F(QuorvelctlWifiCapabilities, GivesTheWholeTreeAsJson)
                              "]\n");
 }
 
+TEST_F(QuorvelctlWifiCapabilities, SayThatThereIsNothingToDraw)
+{
+    simulator.setStatus("wireless-0", "wireless_capabilities", R"({"band": {"6000": {}}})");
+    expectOutput("wifi capabilities --radio wireless-0",
+                 "wireless-0: neither the 2.4 GHz band nor that of 5 GHz\n");
+}
+
 TEST_F(QuorvelctlWifiCapabilities, DrawsTheScenariosRadio)
 {
     const Outcome result = run("wifi capabilities");

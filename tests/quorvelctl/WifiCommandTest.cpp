@@ -239,6 +239,23 @@ TEST_F(QuorvelctlWifi, TellsAnEmptyNetworkFromOneThatIsNotTold)
     EXPECT_EQ(untold.errors, "quorvelctl: who is connected isn't told by wireless-0\n");
 }
 
+TEST_F(QuorvelctlWifi, TellsNoMeshLinksFromThoseThatAreNotTold)
+{
+    simulator.setStatus("wireless-0", "wireless_capabilities", R"({"band": {}})");
+    EXPECT_EQ(run("wifi mesh --radio wireless-0").output, "No mesh links.\n");
+    simulator.setStatus("wireless-0", "wireless_capabilities", "no JSON");
+    const Outcome some = run("wifi mesh");
+    EXPECT_EQ(some.status, 0);
+    EXPECT_EQ(some.output, "RADIO            MAC                ENABLED\n"
+                           "wireless_core-0  02:00:5E:30:02:01  yes\n"
+                           "wireless_core-0  02:00:5E:30:02:02  no\n");
+    EXPECT_EQ(some.errors, "quorvelctl: which mesh links there are isn't told by wireless-0\n");
+    const Outcome none = run("wifi mesh --radio wireless-0 --json");
+    EXPECT_EQ(none.status, 1);
+    EXPECT_EQ(none.output, "");
+    EXPECT_EQ(none.errors, "quorvelctl: which mesh links there are isn't told by wireless-0\n");
+}
+
 class QuorvelctlWifiOnTheOlderGateway : public QuorvelctlTest
 {
 protected:
@@ -260,6 +277,42 @@ TEST_F(QuorvelctlWifiOnTheOlderGateway, NeedsNoNameForItsOnlyRadio)
     const Outcome result = run("wifi wps on");
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_EQ(result.output, "WPS of wireless_core-0 is on.\n");
+}
+
+// U+009B starts a command of a terminal.
+TEST(QuorvelctlWifiOnAHostileGateway, NeverLetsControlCharactersReachTheTerminal)
+{
+    auto scenario = *quorvel::simulator::Scenario::load("dual");
+    const std::string radio = "wireless_core-0\xc2\x9b"
+                              "2J";
+    const auto command = [](const std::string& key, const std::string& value) {
+        return "<command inst=\"cfgmgr-0\"><key>" + key + "</key><value>" + value +
+               "</value></command>";
+    };
+    scenario.replies.push_back(
+        {"<xmlrequest version=\"1.0.1\">"
+         "<query inst=\"devmgr-0\"><key>inst_list</key><value>wireless_core</value></query>"
+         "<query inst=\"devmgr-0\"><key>inst_list</key><value>wireless</value></query>"
+         "</xmlrequest>",
+         200,
+         "<response version=\"1.0.1\"><devmgr-0><key>wireless_core.inst0</key><value>" + radio +
+             "</value></devmgr-0></response>"});
+    scenario.replies.push_back(
+        {"<xmlrequest version=\"1.0.1\">" + command("begin_transaction", radio) + "<set inst=\"" +
+             radio + "\"><key>wps_enabled</key><value>0</value></set>" + command("commit", radio) +
+             command("end_transaction", radio) + "<command inst=\"" + radio +
+             "\"><key>apply</key><value></value></command>" + command("save", "") + "</xmlrequest>",
+         200, "<response version=\"1.0.1\"/>"});
+    quorvel::simulator::GatewaySimulator gateway(scenario);
+    std::string error;
+    ASSERT_TRUE(gateway.start(&error)) << error;
+    const Outcome result = runQuorvelctl("wifi wps off", {gateway.address(), "admin", {}, {}});
+    EXPECT_EQ(result.output, "WPS of wireless_core-0\xef\xbf\xbd"
+                             "2J is off.\n");
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(runQuorvelctl("wifi wps on", {gateway.address(), "admin", {}, {}}).errors,
+              "quorvelctl: can't switch WPS at wireless_core-0\xef\xbf\xbd"
+              "2J: the gateway reports error 5\n");
 }
 
 TEST(QuorvelctlWifiOnAGatewayWithoutARadio, SaysSo)

@@ -4,7 +4,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 namespace quorvelctl::test
 {
@@ -150,6 +152,24 @@ TEST_F(QuorvelctlWifiQr, DrawsNothingForANetworkThatNobodyCanJoin)
     simulator.setValue("wireless_ap-0", "ssid", std::string(3000, 'x'));
     simulator.setValue("wireless_ap-0", "wpa_password", "new secret key");
     EXPECT_EQ(complaint(), "quorvelctl: name and key are too long for a QR code\n");
+}
+
+TEST_F(QuorvelctlWifiQr, WritesIntoAPipeAndDoesNotReplaceIt)
+{
+    const QByteArray pipe = QFile::encodeName(pathOf("pipe"));
+    ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
+    // Open at this end, so that the other one need not wait.
+    QFile reader;
+    ASSERT_TRUE(reader.open(::open(pipe.constData(), O_RDONLY | O_NONBLOCK), QIODevice::ReadOnly,
+                            QFile::AutoCloseHandle));
+    const Outcome result = run("wifi qr --radio wireless_core-0 --png " + pipe.toStdString());
+    EXPECT_EQ(result.status, 0) << result.errors;
+    QFile image(pathOf("code.png"));
+    ASSERT_TRUE(image.open(QIODevice::WriteOnly));
+    image.write(reader.readAll());
+    image.close();
+    EXPECT_EQ(readBack(image.fileName()), "WIFI:T:WPA;S:quorvel-2001;P:radio-secret-2001;;");
+    EXPECT_TRUE(!QFileInfo(pathOf("pipe")).isFile() && QFileInfo::exists(pathOf("pipe")));
 }
 
 TEST_F(QuorvelctlWifiQr, TellsAFileThatCanNotBeWritten)

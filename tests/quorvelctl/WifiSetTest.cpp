@@ -145,6 +145,73 @@ TEST_F(QuorvelctlWifiSet, ChangesTheSecurityMode)
     EXPECT_EQ(stored("wireless_ap-0", "wpa_password"), "radio-secret-2001");
 }
 
+TEST_F(QuorvelctlWifiSet, TakesTheLengthsThatPassPhrasesCanHave)
+{
+    const auto rekey = [&](const std::string& key) {
+        return run("wifi set" + older + "--key-stdin", key + "\n").status;
+    };
+    for (const std::string& key :
+         {std::string("12345678"), std::string(63, 'k'), std::string(64, 'F')}) {
+        EXPECT_EQ(rekey(key), 0) << key;
+        EXPECT_EQ(stored("wireless_ap-0", "wpa_password"), key);
+    }
+    for (const std::string& key : {std::string("1234567"), std::string(64, 'k'),
+                                   std::string(65, 'F'), std::string("pass phr\xc3\xa4se")})
+        EXPECT_EQ(rekey(key), 2) << key;
+    EXPECT_EQ(stored("wireless_ap-0", "wpa_password"), std::string(64, 'F'));
+}
+
+TEST_F(QuorvelctlWifiSet, CountsNamesInBytes)
+{
+    std::string name = "ab";
+    for (int i = 0; i < 10; ++i)
+        name += "\xe2\x82\xac";
+    EXPECT_EQ(run("wifi set" + older + "--ssid " + name).status, 0);
+    EXPECT_EQ(stored("wireless_ap-0", "ssid"), name);
+    EXPECT_EQ(run("wifi set" + older + "--ssid x" + name).errors,
+              "quorvelctl: the name of a network has 1 to 32 bytes, not 33\n");
+}
+
+TEST_F(QuorvelctlWifiSet, GuessesNoState)
+{
+    simulator.setValue("wireless_core-0", "enabled", "2");
+    const Outcome result = run("wifi set" + older + "--ssid Garden");
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors, "quorvelctl: wireless_core-0 doesn't tell whether it is on, and is "
+                             "switched on or off with each change: add --on or --off\n");
+    EXPECT_EQ(stored("wireless_ap-0", "ssid"), "quorvel-2001");
+}
+
+TEST_F(QuorvelctlWifiSet, TakesAnyModeForARadioThatTellsNone)
+{
+    simulator.setStatus("wireless-0", "wireless_capabilities", "no JSON");
+    const Outcome result = run("wifi set" + newer + "--on --security WEP --key-stdin", "abcde\n");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(stored("wireless-0", "ap0_security_mode"), "WEP");
+    EXPECT_EQ(stored("wireless-0", "ap0_wep_key1"), "abcde");
+}
+
+// A new key is written as the first, which does nothing while another one is in use.
+TEST_F(QuorvelctlWifiSet, ChangesNoWepKeyThatIsNotInUse)
+{
+    simulator.setValue("wireless_ap-0", "sec_mode", "wep");
+    simulator.setValue("wireless_ap-0", "wep_key_index", "2");
+    simulator.setValue("wireless_ap-0", "wep_key1", "first");
+    const Outcome refused = run("wifi set" + older + "--key-stdin", "other\n");
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(refused.errors, "quorvelctl: wireless_core-0 uses WEP key 2, and only key 1 can be "
+                              "changed: add --wep-key-index 1\n");
+    EXPECT_EQ(stored("wireless_ap-0", "wep_key1"), "first");
+    EXPECT_EQ(run("wifi set" + older + "--key-stdin --wep-key-index 1", "other\n").status, 0);
+    EXPECT_EQ(stored("wireless_ap-0", "wep_key1"), "other");
+    EXPECT_EQ(stored("wireless_ap-0", "wep_key_index"), "1");
+    simulator.setValue("wireless-0", "ap0_security_mode", "wep");
+    simulator.setValue("wireless-0", "ap0_wep_keyindex", "4");
+    EXPECT_EQ(run("wifi set" + newer + "--on --key-stdin", "other\n").errors,
+              "quorvelctl: wireless-0 uses WEP key 4, and only key 1 can be changed\n");
+    EXPECT_EQ(stored("wireless-0", "ap0_wep_key1"), "");
+}
+
 TEST_F(QuorvelctlWifiSet, LeavesANetworkWithoutAKeyThatHasNone)
 {
     simulator.setValue("wireless_ap-0", "wpa_password", "");
@@ -219,6 +286,10 @@ const Refusal refusals[] = {
      "--on or --off"},
     {"WithALongName", older + "--ssid 123456789012345678901234567890123", "", 2,
      "the name of a network has 1 to 32 bytes, not 33"},
+    {"WithAWepKeyThatIsNone", older + "--wep-key-index 5", "", 2,
+     "the WEP keys are 1 to 4, and not '5'"},
+    {"WithControlCharacters", older + "--ssid Ho\x01me", "", 2,
+     "no control characters can be written"},
     {"WithAnUnknownMode", newer + "--on --security wep", "", 2,
      "wireless-0 has no security mode 'wep', but off, wpa2"},
     {"WithWepDetailsOfANewerRadio", newer + "--on --wep-key-index 2", "", 2,
@@ -234,11 +305,29 @@ const Refusal refusals[] = {
      "standard input ends before the new key of wireless_core-0"},
     {"WithAVariableThatIsNotThere", older + "--key-env NO_SUCH_VARIABLE", "", 2,
      "no new key of wireless_core-0: there is no environment variable NO_SUCH_VARIABLE"},
+    {"BothOnAndOff", older + "--on --off", "", 2, "the state is given twice for wireless_core-0"},
+    {"WithTwoNames", newer + "--ssid Home --on --ssid Attic", "", 2,
+     "the ssid is given twice for wireless-0"},
+    {"WithTwoKeys", older + "--key-stdin --key-file /nonexistent", "new secret key\n", 2,
+     "the key is given twice for wireless_core-0"},
+    {"WithTwoModesOfTheOnlyRadio", " --security off --security wep", "", 2,
+     "the security is given twice"},
     {"WithAFileThatIsNotThere", older + "--key-file /nonexistent", "", 2,
      "can't read /nonexistent: No such file or directory"}};
 
 INSTANTIATE_TEST_SUITE_P(All, QuorvelctlWifiSetRefused, testing::ValuesIn(refusals),
                          [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(QuorvelctlWifiSet, QuotesTheGatewayWithoutItsControlCharacters)
+{
+    simulator.setStatus("wireless-0", "wireless_capabilities",
+                        R"({"band": {"5000": {"modes": {"11ac": {"securityModes":
+                            {"a\u001b[2J\n\u009bb": {}}}}}}})");
+    EXPECT_EQ(run("wifi set" + newer + "--on --security wep").errors,
+              "quorvelctl: wireless-0 has no security mode 'wep', but "
+              "a\xef\xbf\xbd[2J\xef\xbf\xbd\xef\xbf\xbd"
+              "b\n");
+}
 
 TEST_F(QuorvelctlWifiSet, SendsNothingIfTheCommandLineIsWrong)
 {
@@ -280,6 +369,30 @@ TEST(QuorvelctlWifiSetWithTwoOlderRadios, WritesTheFirstOnly)
     EXPECT_EQ(result.errors, "quorvelctl: can't write the settings of wireless_core-1: of older "
                              "radios only wireless_core-0 can be written\n");
     EXPECT_EQ(gateway.storedValue("wireless_ap-0", "ssid"), "quorvel-0417");
+}
+
+TEST(QuorvelctlWifiSetInTheOlderDialect, WritesOneOlderRadioAtATime)
+{
+    auto scenario = *quorvel::simulator::Scenario::load("dual");
+    scenario.dialect = "1.0.0";
+    quorvel::simulator::GatewaySimulator gateway(scenario);
+    std::string error;
+    ASSERT_TRUE(gateway.start(&error)) << error;
+    const Surroundings surroundings{gateway.address(), "admin", {}, {}};
+    const std::string reason = ": the gateway's dialect 1.0.0 knows only one older radio at a time";
+    for (const auto& [radios, names] :
+         {std::pair<std::string, std::string>(" --radio all ", "wireless-0, wireless_core-0"),
+          {newer, "wireless-0"}}) {
+        const Outcome result =
+            runQuorvelctl("wifi set" + radios + "--ssid Home --on", surroundings);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_EQ(result.errors,
+                  "quorvelctl: can't write the settings of " + names + reason + "\n");
+    }
+    EXPECT_EQ(gateway.storedValue("wireless_ap-0", "ssid"), "quorvel-2001");
+    EXPECT_EQ(gateway.storedValue("wireless-0", "ap0_ssid"), "quorvel-2001-5g");
+    EXPECT_EQ(runQuorvelctl("wifi set" + older + "--ssid Home", surroundings).status, 0);
+    EXPECT_EQ(gateway.storedValue("wireless_ap-0", "ssid"), "Home");
 }
 
 TEST_F(QuorvelctlWifiSetOnTheOlderGateway, TellsAWriteThatWasRefused)

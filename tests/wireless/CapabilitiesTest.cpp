@@ -5,6 +5,7 @@
 #include <QJsonDocument>
 #include <boost/make_shared.hpp>
 #include <gtest/gtest.h>
+#include <type_traits>
 
 namespace quorvel::test
 {
@@ -68,6 +69,21 @@ const char* const wholeDocument = R"({
             'modes': {'an': {}}}}})";
 
 } // namespace
+
+TEST(CapabilityTree, ConsistsOfClassesOutsideAnyNamespaceThatMayBeDerivedFrom)
+{
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Capabilities>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Band>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Ghz>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Channels>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Channel>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Modes>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Mode>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::SecurityModes>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::SecurityMode>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Chanbws>);
+    EXPECT_TRUE(std::has_virtual_destructor_v<::Bws>);
+}
 
 TEST(CapabilityTree, HoldsEveryFieldOfADocument)
 {
@@ -260,6 +276,19 @@ TEST(CapabilityTree, LeavesFieldsOfTheWrongKindEmpty)
                             ->getItems();
     EXPECT_EQ(widths.at(0)->getRates(), QVariantList());
     EXPECT_EQ(widths.at(0)->getText(), QString());
+}
+
+TEST(CapabilityTree, TakesWhateverConvertsToWhatIsWanted)
+{
+    Mode mode;
+    mode.setData({{text("text"), QByteArray("802.11 n")},
+                  {text("chanbws"),
+                   QVariantHash{{text("20"), QVariantHash{{text("rates"), lines({"54M"})}}}}}});
+    mode.parse();
+    EXPECT_EQ(mode.getText(), text("802.11 n"));
+    ASSERT_TRUE(mode.getChanbws());
+    ASSERT_EQ(names(mode.getChanbws()->getItems()), lines({"20"}));
+    EXPECT_EQ(texts(mode.getChanbws()->getItems().at(0)->getRates()), lines({"54M"}));
 }
 
 TEST(CapabilityTree, OutlivesItsRootWhereAHostKeepsANode)

@@ -1,5 +1,5 @@
+#include "wireless/AspWirelessImplementorNG.h"
 #include "wireless/WirelessFixture.h"
-#include "wireless/WirelessSettingsImplementor.h"
 
 #include <boost/make_shared.hpp>
 
@@ -175,32 +175,8 @@ TEST_F(NewerRadio, TakesEveryAnswerForSecurity)
 TEST_F(NewerRadio, LooksForTheModeUnderANameWithoutItsInstance)
 {
     // A name that no reply of a gateway has, so only an implementor can put it there.
-    class Answering : public WirelessSettingsImplementor
+    class Answering : public AspWirelessImplementorNG
     {
-        bool checkWpsEnabledStatus(ParamMap&, const QString&) override { return false; }
-        bool checkWirelessStatus(ParamMap&, const QString&) override { return false; }
-        bool setWpsEnabledStatus(ParamMap&, bool, const QString&) override { return false; }
-        bool getWpsRole(ParamMap&, const QString&) override { return false; }
-        bool isSecurityProxyEnabled(ParamMap&, const QString&) override { return false; }
-        bool getWirelessSettings(const QString&, const QString&, ParamMap&) override
-        {
-            return false;
-        }
-        bool setWirelessSettings(const ParamMap&, const QString&, ParamMap&) override
-        {
-            return false;
-        }
-        QString getWirelessSettingsQuery(const ParamMap&, const QString&, const QString&,
-                                         ParamMap&) override
-        {
-            return QString();
-        }
-        bool getWirelessClientMacList(const QString&, ParamMap&) override { return false; }
-        bool getWirelessMeshInstances(ParamMap&) override { return false; }
-        bool getWirelessMeshInstanceInfo(const QString&, const QString&, ParamMap&) override
-        {
-            return false;
-        }
         bool getWirelessSecurityMode(const QString& ap, const QString& manager,
                                      ParamMap& result) override
         {
@@ -209,8 +185,6 @@ TEST_F(NewerRadio, LooksForTheModeUnderANameWithoutItsInstance)
             result.insert(text("ap0_security_mode"), text("off"));
             return true;
         }
-        bool getWirelessCapabilities(ParamMap&, const QString&) override { return false; }
-        bool getTxMode(ParamMap&, const QString&) override { return false; }
     };
     cpe->setWirelessImplementorNG(boost::make_shared<Answering>());
     EXPECT_FALSE(newer->isWirelessSecurityEnabled(error));

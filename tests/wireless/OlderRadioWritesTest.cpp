@@ -1,6 +1,6 @@
 #include "protocol/HttpRequestExecutor.h"
+#include "wireless/AspWirelessImplementorV1.h"
 #include "wireless/WirelessFixture.h"
-#include "wireless/WirelessSettingsImplementor.h"
 
 #include <boost/make_shared.hpp>
 
@@ -41,10 +41,13 @@ TEST_F(OlderRadioWrite, IsSwitchedOffByEveryStatusButEnabled)
 
 TEST_F(OlderRadioWrite, WritesAnEmptyStatusWithAnotherInstance)
 {
-    gateway.reply(answered);
-    older->setManager(text("wireless_core-3"));
-    EXPECT_TRUE(older->setWirelessSettings(AspWirelessEnabled, wholeRecord("off"), error));
-    EXPECT_TRUE(transcript(gateway).contains(text("\nset \"wireless_core-0\" \"enabled\" \"\"\n")));
+    for (const char* instance : {"wireless_core-3", ""}) {
+        gateway.reply(answered);
+        older->setManager(text(instance));
+        EXPECT_TRUE(older->setWirelessSettings(AspWirelessEnabled, wholeRecord("off"), error));
+        EXPECT_TRUE(transcript(gateway.requests().last())
+                        .contains(text("\nset \"wireless_core-0\" \"enabled\" \"\"\n")));
+    }
 }
 
 TEST_F(OlderRadioWrite, CountsALostReplyToAWriteAsSuccess)
@@ -52,6 +55,25 @@ TEST_F(OlderRadioWrite, CountsALostReplyToAWriteAsSuccess)
     cpe->getWirelessImplementor()->setRequestExecutor(boost::make_shared<HttpRequestExecutor>(200));
     gateway.sendAndHold(QByteArray());
     EXPECT_TRUE(older->setWirelessSettings(AspWirelessEnabled, wholeRecord("off"), error));
+    EXPECT_EQ(error, 0);
+}
+
+TEST_F(OlderRadioWrite, CountsAFailureWithoutATraceAsSuccess)
+{
+    struct Failing : AspWirelessImplementorV1 {
+        bool setWirelessSettings(const ParamMap&, const QString&, ParamMap& result) override
+        {
+            result = trace;
+            return false;
+        }
+        ParamMap trace;
+    };
+    const auto failing = boost::make_shared<Failing>();
+    cpe->setWirelessImplementor(failing);
+    EXPECT_TRUE(older->setWirelessSettings(AspWirelessEnabled, wholeRecord("off"), error));
+    EXPECT_EQ(error, 0);
+    failing->trace = {{text("webapp.error"), text("0")}};
+    EXPECT_FALSE(older->setWirelessSettings(AspWirelessEnabled, wholeRecord("off"), error));
     EXPECT_EQ(error, 0);
 }
 

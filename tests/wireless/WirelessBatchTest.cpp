@@ -12,6 +12,11 @@ namespace quorvel::test
 namespace
 {
 
+/// Fails at once, for what is sent through it.
+struct Disconnected : HttpRequestExecutor {
+    int execute(const ParamMap&, ParamMap&) override { return 1; }
+};
+
 /// The write of several radios in one request.
 class WirelessBatch : public WirelessRadios
 {
@@ -64,12 +69,14 @@ TEST_F(WirelessBatch, GoesByTheOrderOfTheRadios)
 
 TEST_F(WirelessBatch, IsSentThroughTheGenerationOfTheFirstRadio)
 {
-    cpe->getWirelessImplementor()->setRequestExecutor(boost::make_shared<HttpRequestExecutor>(200));
-    auto manager = of(lines({"wireless_core-0", "wireless-0"}));
-    // Only the older generation's executor gives up soon.
-    gateway.sendAndHold(QByteArray());
-    EXPECT_TRUE(manager.setWirelessSettings(twoRecords, error));
-    EXPECT_EQ(error, 0);
+    auto olderFirst = of(lines({"wireless_core-0", "wireless-0"}));
+    auto newerFirst = of(lines({"wireless-0", "wireless_core-0"}));
+    gateway.reply(reply101({{"webapp", "error", "3"}}));
+    cpe->getWirelessImplementor()->setRequestExecutor(boost::make_shared<Disconnected>());
+    EXPECT_TRUE(olderFirst.setWirelessSettings(twoRecords, error));
+    EXPECT_EQ(error, 29);
+    EXPECT_TRUE(newerFirst.setWirelessSettings(twoRecords, error));
+    EXPECT_EQ(error, 3);
 }
 
 TEST_F(WirelessBatch, IsDoneWhateverBecameOfTheRequest)

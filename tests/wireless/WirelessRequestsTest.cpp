@@ -75,6 +75,11 @@ private:
             watched.seen.append(watched.isLocked());
             AspRequestFormatterV2::clearCommands();
         }
+        QString formatCommands() override
+        {
+            watched.seen.append(watched.isLocked());
+            return AspRequestFormatterV2::formatCommands();
+        }
         Watched& watched;
     };
 
@@ -101,6 +106,15 @@ QList<bool> locksOf(const WirelessCase& request, const CpeSettingsImplementor& p
     EXPECT_FALSE(radio.isLocked());
     return radio.seen;
 }
+
+/// The write that is only formatted, in the form of a request.
+const WirelessCase formattedWrite{
+    "getWirelessSettingsQuery", [](auto& radio, ParamMap& result) {
+        return !radio.getWirelessSettingsQuery({}, text("ap0"), text("wireless-0"), result)
+                    .isEmpty();
+    }};
+
+using FormattedWrite = BuiltGateway;
 
 } // namespace
 
@@ -145,5 +159,14 @@ TEST_P(NewerRadioUnlockedRequest, KeepsNobodyOut)
 
 INSTANTIATE_TEST_SUITE_P(OnlyOperation, NewerRadioUnlockedRequest,
                          testing::Values(newerUnlockedRequest()), CaseName());
+
+TEST_F(FormattedWrite, KeepsOthersOutFromStartToEnd)
+{
+    buildNewest();
+    EXPECT_EQ(locksOf<AspWirelessImplementorV1>(formattedWrite, *cpe->getWirelessImplementor()),
+              (QList<bool>{true, true}));
+    EXPECT_EQ(locksOf<AspWirelessImplementorNG>(formattedWrite, *cpe->getWirelessImplementorNG()),
+              (QList<bool>{true, true}));
+}
 
 } // namespace quorvel::test

@@ -253,7 +253,7 @@ void Output::printDone(const QString& sentence) const
     if (json)
         print(Record{{QStringLiteral("done"), QString(), sentence}});
     else
-        writeLine(*out, sentence);
+        writeLine(*out, printable(sentence));
 }
 
 } // namespace quorvelctl

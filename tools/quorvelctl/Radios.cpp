@@ -54,7 +54,9 @@ boost::shared_ptr<Capabilities> Radio::capabilities() const
         return boost::shared_ptr<Capabilities>();
     ask("read the capabilities of",
         [](auto& radio, auto& error) { return radio.getWirelessCapabilities(error); });
-    return newer->getCapabilities();
+    // A document that can't be read gives an empty tree.
+    const auto tree = newer->getCapabilities();
+    return tree && tree->getBand() ? tree : boost::shared_ptr<Capabilities>();
 }
 
 QStringList Radio::securityModes(int band) const
@@ -130,6 +132,12 @@ Protection protectionOf(const QString& securityMode)
     if (begins("wep", "WEP"))
         return Protection::Wep;
     return securityMode == QLatin1String("off") ? Protection::None : Protection::Unknown;
+}
+
+int wepKeyInUse(const AspWirelessSettings& settings)
+{
+    const int number = settings.wepKeyIndex.toInt();
+    return number >= 1 && number <= 4 ? number - 1 : 0;
 }
 
 } // namespace quorvelctl

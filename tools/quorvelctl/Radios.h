@@ -31,7 +31,8 @@ public:
     quorvel::AspWirelessSettings settings() const;
     quorvel::AspWirelessStatus status() const;
     /// Asks what the radio can do, and keeps it for what depends on it: mesh links and security
-    /// modes. Null for an older radio, which isn't asked.
+    /// modes. Null if it doesn't tell: for an older radio, which isn't asked, and if what it tells
+    /// can't be read.
     boost::shared_ptr<Capabilities> capabilities() const;
     /// The security modes of a band, 1 for 5 GHz, else 2.4 GHz. Needs the capabilities.
     QStringList securityModes(int band) const;
@@ -75,5 +76,8 @@ enum class Protection { None, Wep, Wpa, Unknown };
 
 /// By the name of a security mode. Gateways spell them in small or in capital letters.
 Protection protectionOf(const QString& securityMode);
+
+/// Which of the WEP keys is in use, from 0; gateways count from 1. The first if they don't tell.
+int wepKeyInUse(const quorvel::AspWirelessSettings& settings);
 
 } // namespace quorvelctl

@@ -16,6 +16,9 @@ namespace
 
 QString firstLineOf(const std::string& path)
 {
+    // Qt would complain on its own, too.
+    if (path.empty())
+        throw Failure{WrongUsage, QStringLiteral("can't read a file without a name")};
     QFile file(QString::fromStdString(path));
     if (!file.open(QIODevice::ReadOnly))
         throw Failure{WrongUsage,

@@ -88,19 +88,29 @@ void draw(const Output& output, const QString& radio, const Ghz& band)
     output.print(channelsOf(band), QStringLiteral("No channels."));
 }
 
+void draw(const Output& output, const Tree& tree)
+{
+    const Band& bands = *tree.root->getBand();
+    bool first = true;
+    for (const auto& band : {bands.getGhz2400(), bands.getGhz5000()}) {
+        if (!band)
+            continue;
+        if (!first)
+            output.printLine();
+        first = false;
+        draw(output, tree.radio, *band);
+    }
+    if (first)
+        output.printLine(
+            QStringLiteral("%1: neither the 2.4 GHz band nor that of 5 GHz").arg(tree.radio));
+}
+
 void draw(const Output& output, const QList<Tree>& trees)
 {
-    bool first = true;
     for (const Tree& tree : trees) {
-        const auto bands = tree.root->getBand() ? *tree.root->getBand() : Band();
-        for (const auto& band : {bands.getGhz2400(), bands.getGhz5000()}) {
-            if (!band)
-                continue;
-            if (!first)
-                output.printLine();
-            first = false;
-            draw(output, tree.radio, *band);
-        }
+        if (&tree != &trees.first())
+            output.printLine();
+        draw(output, tree);
     }
 }
 
@@ -121,8 +131,7 @@ void capabilities(Session& session, const std::string& name)
     const QList<Radio> radios = Radios(session.gateway()).named(name);
     for (const Radio& radio : radios) {
         const auto root = radio.capabilities();
-        // A document that can't be read gives an empty tree.
-        if (root && root->getBand())
+        if (root)
             trees.append({radio.name(), root});
         else
             silent.append(radio.name());

@@ -126,8 +126,14 @@ void clients(Session& session, const std::string& name)
 void mesh(Session& session, const std::string& name)
 {
     QList<Record> records;
-    for (const Radio& radio : Radios(session.gateway()).named(name)) {
-        radio.capabilities();
+    QStringList silent;
+    const QList<Radio> radios = Radios(session.gateway()).named(name);
+    for (const Radio& radio : radios) {
+        // A newer radio's capabilities tell how many links it can have.
+        if (radio.isNewer() && !radio.capabilities()) {
+            silent.append(radio.name());
+            continue;
+        }
         const auto links = radio.ask("list the mesh links of", [](auto& facade, auto& error) {
             return facade.getWirelessMeshInstances(error);
         });
@@ -135,6 +141,7 @@ void mesh(Session& session, const std::string& name)
             records.append({nameOf(radio), plainField("mac", "MAC", link.mac),
                             plainField("enabled", "Enabled", link.enabled)});
     }
+    excuse(silent, radios.size(), "which mesh links there are");
     session.output().print(records, word("No mesh links."));
 }
 

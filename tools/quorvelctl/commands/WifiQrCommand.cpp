@@ -5,6 +5,7 @@
 #include "Radios.h"
 #include "Session.h"
 
+#include <QFileInfo>
 #include <QSaveFile>
 #include <unistd.h>
 
@@ -29,13 +30,6 @@ QString escaped(const QString& text)
     return safe;
 }
 
-/// The WEP key in use. Gateways count from 1.
-QString wepKeyOf(const AspWirelessSettings& settings)
-{
-    const int index = settings.wepKeyIndex.toInt();
-    return settings.wepKeys[index >= 1 && index <= 4 ? index - 1 : 0];
-}
-
 /// What a phone reads that is to join the radio's network.
 QString invitationTo(const Radio& radio, const AspWirelessSettings& settings)
 {
@@ -53,7 +47,7 @@ QString invitationTo(const Radio& radio, const AspWirelessSettings& settings)
     if (protection == Protection::None)
         return QLatin1String("WIFI:T:nopass") + name + QLatin1String(";;");
     const bool wpa = protection == Protection::Wpa;
-    const QString key = wpa ? settings.wpaPassword : wepKeyOf(settings);
+    const QString key = wpa ? settings.wpaPassword : settings.wepKeys[wepKeyInUse(settings)];
     if (key.isEmpty())
         fail(QStringLiteral("its network has no key that all devices share"));
     return QLatin1String(wpa ? "WIFI:T:WPA" : "WIFI:T:WEP") + name + QLatin1String(";P:") +
@@ -73,17 +67,36 @@ QJsonArray rowsOf(const QrCode& code)
     return rows;
 }
 
-/// Only the owner may read it, as it gives the key away.
-void save(const QrCode& code, const QString& path)
+bool write(QFileDevice& file, const QByteArray& image)
 {
-    QSaveFile file(path);
+    return file.write(image) == image.size() && file.flush();
+}
+
+/// Only the owner may read it, as it gives the key away.
+bool replaceFile(QSaveFile& file, const QByteArray& image)
+{
     file.setDirectWriteFallback(true);
-    const bool saved = file.open(QIODevice::WriteOnly) &&
-                       file.setPermissions(QSaveFile::ReadOwner | QSaveFile::WriteOwner) &&
-                       file.write(code.png(pixelsOfAModule)) > 0 && file.commit();
-    if (!saved)
-        throw Failure{GatewayFailed,
-                      QStringLiteral("can't write %1: %2").arg(path, file.errorString())};
+    return file.open(QIODevice::WriteOnly) &&
+           file.setPermissions(QSaveFile::ReadOwner | QSaveFile::WriteOwner) &&
+           write(file, image) && file.commit();
+}
+
+void save(const QByteArray& image, const QString& path)
+{
+    const auto expect = [&](bool saved, const QFileDevice& file) {
+        if (!saved)
+            throw Failure{GatewayFailed,
+                          QStringLiteral("can't write %1: %2").arg(path, file.errorString())};
+    };
+    const QFileInfo place(path);
+    // A device or a pipe takes the image itself, and isn't to be replaced by a file.
+    if (place.exists() && !place.isFile() && !place.isDir()) {
+        QFile file(path);
+        expect(file.open(QIODevice::WriteOnly) && write(file, image), file);
+    } else {
+        QSaveFile file(path);
+        expect(replaceFile(file, image), file);
+    }
 }
 
 void qr(Session& session, const std::string& name, const std::string& png)
@@ -97,7 +110,7 @@ void qr(Session& session, const std::string& name, const std::string& png)
     const Output output = session.output();
     if (!png.empty()) {
         const QString path = QString::fromStdString(png);
-        save(code, path);
+        save(code.png(pixelsOfAModule), path);
         output.print(record << plainField("file", "File", path));
     } else if (session.options.json) {
         output.print(record << secretField(QStringLiteral("text"), QString(), invitation)
@@ -121,7 +134,10 @@ void addWifiQr(CLI::App& group, Session& session)
     const auto png = std::make_shared<std::string>();
     command
         ->add_option("--png", *png, "Write it to this file as a PNG image, for nobody else to read")
-        ->type_name("FILE");
+        ->type_name("FILE")
+        ->check([](const std::string& path) {
+            return std::string(path.empty() ? "it needs a name" : "");
+        });
     command->callback([&session, radio, png] { qr(session, *radio, *png); });
 }
 

@@ -53,6 +53,17 @@ std::string meaningOfKey(const Change& change)
     return change.radio.empty() ? "new key" : "new key of " + change.radio;
 }
 
+/// Complains of an option that repeats or contradicts another one for the same radio.
+void expectFirst(bool isFirst, const char* what, const Change& change)
+{
+    if (!isFirst)
+        complain(QStringLiteral("the %1 is given twice%2")
+                     .arg(QLatin1String(what),
+                          change.radio.empty()
+                              ? QString()
+                              : QStringLiteral(" for ") + QString::fromStdString(change.radio)));
+}
+
 void begin(Changes& changes, const std::string& radio)
 {
     const bool first = changes.size() == 1 && changes.first().radio.empty();
@@ -63,12 +74,21 @@ void begin(Changes& changes, const std::string& radio)
     changes.last().radio = radio;
 }
 
+bool isWepKeyIndex(const QString& text)
+{
+    return text.size() == 1 && text >= QLatin1String("1") && text <= QLatin1String("4");
+}
+
 void checkText(const Change& change)
 {
     for (const auto& [field, text] : change.texts) {
+        if (printable(text) != text)
+            complain(QStringLiteral("no control characters can be written"));
         const int length = text.toUtf8().size();
         if (field == &AspWirelessSettings::ssid && (length == 0 || length > 32))
             complain(QStringLiteral("the name of a network has 1 to 32 bytes, not %1").arg(length));
+        if (field == &AspWirelessSettings::wepKeyIndex && !isWepKeyIndex(text))
+            complain(QStringLiteral("the WEP keys are 1 to 4, and not '%1'").arg(text));
     }
 }
 
@@ -133,6 +153,18 @@ bool isPassPhrase(const QString& key)
     return form.match(key).hasMatch();
 }
 
+/// A new WEP key is written as the first, where it would do nothing while another one is in use.
+void expectFirstKeyInUse(const Radio& radio, const Change& change,
+                         const AspWirelessSettings& settings)
+{
+    const int used = wepKeyInUse(settings);
+    if (used != 0 && !change.names(&AspWirelessSettings::wepKeyIndex))
+        complain(QStringLiteral("%1 uses WEP key %2, and only key 1 can be changed%3")
+                     .arg(radio.name())
+                     .arg(used + 1)
+                     .arg(QLatin1String(radio.isNewer() ? "" : ": add --wep-key-index 1")));
+}
+
 void applyKey(const Radio& radio, const Change& change, AspWirelessSettings& settings)
 {
     QString* const key = keyIn(settings);
@@ -143,6 +175,8 @@ void applyKey(const Radio& radio, const Change& change, AspWirelessSettings& set
         complain(QStringLiteral("the new key of %1 is neither 8 to 63 plain characters nor 64 "
                                 "hexadecimal digits")
                      .arg(radio.name()));
+    if (change.keySource && key == settings.wepKeys)
+        expectFirstKeyInUse(radio, change, settings);
     if (change.keySource)
         *key = change.key;
     // A network that has none as it is, with a RADIUS server for instance, may stay so.
@@ -261,6 +295,15 @@ void addFlag(CLI::App& command, const std::shared_ptr<Changes>& changes, const c
         ->trigger_on_parse();
 }
 
+/// An argument as text. What isn't UTF-8 would become another name than was meant.
+QString textOf(const char* option, const std::string& argument)
+{
+    const QString text = QString::fromStdString(argument);
+    if (text.toStdString() != argument)
+        complain(QStringLiteral("what %1 names is no UTF-8").arg(QLatin1String(option)));
+    return text;
+}
+
 void addTextOptions(CLI::App& command, const std::shared_ptr<Changes>& changes)
 {
     const struct {
@@ -278,9 +321,22 @@ void addTextOptions(CLI::App& command, const std::shared_ptr<Changes>& changes)
                  &AspWirelessSettings::wepKeyIndex}};
     for (const auto& row : rows)
         addOption(command, changes, row.option, row.value, row.help,
-                  [field = row.text](Change& change, const std::string& text) {
-                      change.texts.append({field, QString::fromStdString(text)});
+                  [row](Change& change, const std::string& text) {
+                      expectFirst(!change.names(row.text), row.option + 2, change);
+                      change.texts.append({row.text, textOf(row.option, text)});
                   });
+}
+
+void takeKey(Change& change, const SecretSource& source)
+{
+    expectFirst(!change.keySource, "key", change);
+    change.keySource = source;
+}
+
+void takeStatus(Change& change, AspWirelessStatus status)
+{
+    expectFirst(!change.status, "state", change);
+    change.status = status;
 }
 
 void addKeyOptions(CLI::App& command, const std::shared_ptr<Changes>& changes)
@@ -288,15 +344,15 @@ void addKeyOptions(CLI::App& command, const std::shared_ptr<Changes>& changes)
     addOption(command, changes, "--key-file", "FILE",
               "Read the new key from the first line of this file",
               [](Change& change, const std::string& path) {
-                  change.keySource = SecretSource::inFile(meaningOfKey(change), path);
+                  takeKey(change, SecretSource::inFile(meaningOfKey(change), path));
               });
     addOption(command, changes, "--key-env", "VARIABLE",
               "Read the new key from this environment variable",
               [](Change& change, const std::string& variable) {
-                  change.keySource = SecretSource::inVariable(meaningOfKey(change), variable);
+                  takeKey(change, SecretSource::inVariable(meaningOfKey(change), variable));
               });
     addFlag(command, changes, "--key-stdin", "Read the new key from a line of standard input",
-            [](Change& change) { change.keySource = SecretSource::onStdin(meaningOfKey(change)); });
+            [](Change& change) { takeKey(change, SecretSource::onStdin(meaningOfKey(change))); });
 }
 
 } // namespace
@@ -316,9 +372,9 @@ void addWifiSet(CLI::App& group, Session& session)
     addTextOptions(*command, changes);
     addKeyOptions(*command, changes);
     addFlag(*command, changes, "--on", "Switch the radio on",
-            [](Change& change) { change.status = AspWirelessEnabled; });
+            [](Change& change) { takeStatus(change, AspWirelessEnabled); });
     addFlag(*command, changes, "--off", "Switch the radio off",
-            [](Change& change) { change.status = AspWirelessDisabled; });
+            [](Change& change) { takeStatus(change, AspWirelessDisabled); });
     command->callback([&session, changes] { set(session, *changes); });
 }
 
