@@ -1,8 +1,8 @@
 #include "wireless/CapabilityDocument.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QSet>
 #include <algorithm>
 #include <vector>
 
@@ -49,36 +49,72 @@ QString decoded(const QString& string)
     return QJsonDocument::fromJson(list.toUtf8()).array().at(0).toString();
 }
 
-/// Whether an object names a key twice. Qt's reader keeps the last value, and for ever the memory
-/// of those before it, so that a gateway could use up its host's.
-bool repeatsAKey(const QString& document)
+const std::size_t deepestNesting = 1024; // Qt reads nothing that is nested deeper
+
+/// Where a key and its value stand in a document, together with the comma behind them.
+struct Pair {
+    int start = 0;
+    int end = 0;
+};
+
+/// An object or list of which the end hasn't come yet.
+struct Open {
+    QHash<QString, Pair> pairs;
+    QString lastKey;
+    int lastStart = -1; // of a pair that hasn't ended
+
+    void takeKey(const QString& key, int start)
+    {
+        lastKey = key;
+        lastStart = start;
+    }
+
+    void endPair(int end)
+    {
+        if (lastStart >= 0)
+            pairs.insert(lastKey, {lastStart, end});
+        lastStart = -1;
+    }
+};
+
+/// Leaves of the pairs of an object that have the same key only the last, whose value counts: Qt's
+/// reader keeps for ever the memory of those before it, so that a gateway could use up its host's.
+/// False if the document is nested too deeply to be read.
+bool dropRepeatedKeys(QString& document)
 {
-    std::vector<QSet<QString>> open; // keys by object; an array has none
+    std::vector<Open> open;
     for (int i = 0; i < document.size(); ++i) {
-        if (document[i] == QLatin1Char('{') || document[i] == QLatin1Char('[')) {
+        const QChar character = document.at(i);
+        if (character == QLatin1Char('{') || character == QLatin1Char('[')) {
             open.emplace_back();
-        } else if (document[i] == QLatin1Char('}') || document[i] == QLatin1Char(']')) {
-            if (!open.empty())
-                open.pop_back();
-        } else if (document[i] == QLatin1Char('"')) {
+            if (open.size() > deepestNesting)
+                return false;
+        } else if (open.empty()) {
+            continue;
+        } else if (character == QLatin1Char('}') || character == QLatin1Char(']')) {
+            open.pop_back();
+        } else if (character == QLatin1Char(',')) {
+            open.back().endPair(i + 1);
+        } else if (character == QLatin1Char('"')) {
             const int end = endOfString(document, i);
-            if (isKey(document, end) && !open.empty()) {
+            if (isKey(document, end)) {
                 const QString key = decoded(document.mid(i, end - i));
-                if (open.back().contains(key))
-                    return true;
-                open.back().insert(key);
+                const Pair earlier = open.back().pairs.take(key);
+                std::fill(document.begin() + earlier.start, document.begin() + earlier.end,
+                          QLatin1Char(' '));
+                open.back().takeKey(key, i);
             }
             i = end - 1;
         }
     }
-    return false;
+    return true;
 }
 
 } // namespace
 
-QVariantMap readCapabilityDocument(const QString& document)
+QVariantMap readCapabilityDocument(QString document)
 {
-    if (hasTooManyValues(document) || repeatsAKey(document))
+    if (hasTooManyValues(document) || !dropRepeatedKeys(document))
         return QVariantMap();
     return QJsonDocument::fromJson(document.toUtf8()).toVariant().toMap();
 }

@@ -8,7 +8,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QSet>
 #include <algorithm>
 
 /// \file
@@ -147,20 +146,40 @@ QString arriving(const QString& reply, const char* entry)
     return entries.value(radio + QLatin1Char('.') + QLatin1String(entry));
 }
 
-/// Whether a document might be refused for what it costs: it is long, or has a string twice, of
-/// which one could be a key that is repeated.
-bool mayBeRefused(const QString& document)
+/// Keys of all objects in a value.
+int keysIn(const QVariant& value)
 {
-    static const QRegularExpression string(QStringLiteral("\"[^\"]*\""));
-    QSet<QString> strings;
-    auto match = string.globalMatch(document);
-    while (match.hasNext()) {
-        const QString found = match.next().captured();
-        if (strings.contains(found) || found.contains(QLatin1Char('\\')))
-            return true;
-        strings.insert(found);
+    int count = 0;
+    if (value.type() == QVariant::Map) {
+        const QVariantMap object = value.toMap();
+        count += object.size();
+        for (const QVariant& member : object)
+            count += keysIn(member);
+    } else if (value.type() == QVariant::List) {
+        for (const QVariant& member : value.toList())
+            count += keysIn(member);
     }
-    return document.size() > 50000;
+    return count;
+}
+
+/// Strings of a document that a colon follows.
+int keysWrittenIn(const QString& document)
+{
+    static const QRegularExpression key(QStringLiteral(R"("(?:[^"\\]|\\.)*"\s*:)"),
+                                        QRegularExpression::DotMatchesEverythingOption);
+    int count = 0;
+    for (auto match = key.globalMatch(document); match.hasNext(); match.next())
+        ++count;
+    return count;
+}
+
+/// What Qt reads in a document. Where keys are missing one may have been repeated: Qt would keep
+/// the memory of what it drops, and so is not asked.
+QJsonObject objectIn(const QString& document, const QVariantMap& read)
+{
+    if (keysWrittenIn(document) == keysIn(read))
+        return QJsonDocument::fromJson(document.toUtf8()).object();
+    return QJsonObject::fromVariantMap(read);
 }
 
 QString replyWith(const char* entry, const QString& value)
@@ -182,9 +201,7 @@ void run(const QString& txMode, const QString& document)
         return;
     const QString arrived = arriving(capabilities, "wireless_capabilities");
     require(bool(facade.getCapabilities()), "an answer gives capabilities");
-    if (facade.getCapabilities()->getData().isEmpty() && mayBeRefused(arrived))
-        return;
-    const QJsonObject root = QJsonDocument::fromJson(arrived.chopped(1).toUtf8()).object();
+    const QJsonObject root = objectIn(arrived.chopped(1), facade.getCapabilities()->getData());
     expectTree(*facade.getCapabilities(), root);
     const char* bands[] = {"2400", "5000"};
     for (int band = 0; band < 2; ++band) {

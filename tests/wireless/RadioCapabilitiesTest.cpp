@@ -102,13 +102,18 @@ TEST_F(RadioCapabilities, AreEmptyOfATextThatIsNotJson)
     }
 }
 
-TEST_F(RadioCapabilities, AreEmptyIfAnObjectRepeatsAKey)
+TEST_F(RadioCapabilities, TakeTheLastValueOfARepeatedKey)
 {
-    for (const char* document :
-         {R"({"wdsPrefix": [1], "band": {}, "wdsPrefix": [2]})", R"({"band": {}, "\u0062and": {}})",
-          R"({"band": {"a": [{"b \" c": 1, "b \" c" : 2}]}})", R"({"band": {"": 1, "": []}})"}) {
-        EXPECT_EQ(fetch(text(document))->getData(), QVariantMap()) << document;
-    }
+    const char* const document =
+        R"({"wdsPrefix": [1, 2], "band": {"2400": {}, "5000": {"text": "a", "text" : "b"}}, )"
+        R"("apPrefix": [{"b \" c": [1], "b \" c": 3, "b \" c": 2}], "wdsPrefix": [3], )"
+        R"("b\u0061nd": {"2400": {"text": "c,}"}, "": 1, "": []}})";
+    const auto capabilities = fetch(text(document));
+    EXPECT_EQ(capabilities->getWdsPrefix(), QVariantList{3});
+    EXPECT_EQ(capabilities->getApPrefix(), (QVariantList{QVariantMap{{text("b \" c"), 2}}}));
+    EXPECT_EQ(capabilities->getBand()->getData(),
+              (QVariantMap{{text("2400"), QVariantMap{{text("text"), text("c,}")}}},
+                           {QString(), QVariantList()}}));
 }
 
 TEST_F(RadioCapabilities, MayRepeatAKeyInAnotherObject)
