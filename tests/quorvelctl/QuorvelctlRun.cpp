@@ -26,8 +26,10 @@ void start(QProcess& process, const std::string& arguments, const Surroundings& 
         set(name.c_str(), value);
 
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(QUORVELCTL),
-                  QString::fromStdString(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    QStringList words =
+        QString::fromStdString(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    words.replaceInStrings(QStringLiteral("''"), QString());
+    process.start(QStringLiteral(QUORVELCTL), words);
 }
 
 Outcome runQuorvelctl(const std::string& arguments, const Surroundings& surroundings)
