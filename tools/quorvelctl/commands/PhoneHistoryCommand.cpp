@@ -61,6 +61,14 @@ QList<int> linesOf(Gateway& gateway)
     return lines;
 }
 
+/// Fails if there is no such line: its log is as empty as that of a line without calls.
+void expectLine(Gateway& gateway, int line)
+{
+    if (!linesOf(gateway).contains(line))
+        throw Failure{GatewayFailed,
+                      QStringLiteral("%1 has no line %2").arg(gateway.address()).arg(line)};
+}
+
 QList<LoggedCall> readCalls(Gateway& gateway, int line, int kind)
 {
     const auto phone = telephony(gateway);
@@ -119,6 +127,8 @@ void history(Session& session, const Wanted& wanted)
     QList<LoggedCall> calls;
     for (const int line : lines)
         calls += readCalls(gateway, line, wanted.kind);
+    if (wanted.line >= 0 && calls.isEmpty())
+        expectLine(gateway, wanted.line);
     print(session, calls, wanted.csv);
 }
 
