@@ -185,7 +185,9 @@ void addChanges(CLI::App& group, Session& session)
         const auto names = std::make_shared<Names>();
         command->add_option("wan", names->wan, "WAN, as wan-0")->required();
         command->add_option(row.argument, names->other, row.meaning)->required();
-        command->callback([&session, names, run = row.run] {
+        command->callback([&session, names, argument = row.argument, run = row.run] {
+            if (names->other.empty())
+                throw Failure{WrongUsage, word("the %1 is empty").arg(word(argument))};
             run(session, QString::fromStdString(names->wan), QString::fromStdString(names->other));
         });
     }
