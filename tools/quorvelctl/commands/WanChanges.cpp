@@ -44,11 +44,22 @@ void toggle(Session& session, const Toggle& row, const QString& wan)
     session.output().printDone(word(row.outcome).arg(wan));
 }
 
+/// The first of some names that isn't among others; empty if all are.
+QString firstOther(const QStringList& names, const QStringList& others)
+{
+    for (const QString& name : names) {
+        if (!others.contains(name))
+            return name;
+    }
+    return QString();
+}
+
 void addEntity(Session& session, const QString& wan, const QString& type)
 {
     Gateway& gateway = session.gateway();
     Wans wans(gateway);
     wans.expect({wan});
+    const QStringList before = gateway.instancesOf(type);
     QString created;
     try {
         // It logs its success as an error.
@@ -60,6 +71,9 @@ void addEntity(Session& session, const QString& wan, const QString& type)
             failure.message += word(" (%1 is created, but not added)").arg(created);
         throw;
     }
+    // A session that has to be renewed between creating and adding takes the name with it.
+    if (created.isEmpty())
+        created = firstOther(gateway.instancesOf(type), before);
     if (created.isEmpty())
         throw Failure{GatewayFailed,
                       word("can't add a %1 entity to %2: the gateway created none").arg(type, wan)};
