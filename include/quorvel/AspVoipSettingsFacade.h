@@ -30,8 +30,9 @@ using AspVoipCallHistoryProgress =
 /// from the host's configuration, read anew at each use: OSTRA_CONFIG_DEFAULT_FXS_MINGAIN and
 /// OSTRA_CONFIG_DEFAULT_FXS_MAXGAIN for lines, OSTRA_CONFIG_DEFAULT_FXO_MINGAIN and
 /// OSTRA_CONFIG_DEFAULT_FXO_MAXGAIN for the analogue port. A value that is no number leaves the
-/// end as it was, at first 0. Percentages are rounded up in both directions, so what was written
-/// may be read back higher.
+/// end as it was, at first 0. In a range without extent gains read as empty texts, and each one
+/// that is written becomes its end. Percentages are rounded up in both directions, so what was
+/// written may be read back higher.
 ///
 /// An older generation of gateways serves only the write of an account: it reports no lines, gains
 /// and calls.
