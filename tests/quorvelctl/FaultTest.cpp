@@ -127,6 +127,12 @@ const Case cases[] = {
      {"close key=isconnected after=1"},
      1,
      "can't delete the pppox entity of wan-1: the gateway didn't do it"},
+    // Nor if the gateway refuses to tell it: then an entity without a name is deleted.
+    {"AnEntityThatIsKeptBecauseItWasNotTold",
+     "wan delete-entity wan-1 pppox",
+     {"error:7 1 key=isconnected after=1"},
+     1,
+     "can't delete the pppox entity of wan-1: the gateway didn't do it"},
     {"AnInterfaceThatTheGatewayRefuses",
      "wan add-iface wan-1 x",
      {"error:9 key=addIface"},

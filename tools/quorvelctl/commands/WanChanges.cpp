@@ -6,6 +6,7 @@
 #include "Words.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -81,22 +82,22 @@ void addEntity(Session& session, const QString& wan, const QString& type)
         {plainField("wan", "WAN", wan), plainField("entity", "Created and added", created)});
 }
 
-/// Fails if the WAN certainly has no entity of a type: the gateway would be asked to delete an
-/// entity without a name. Of some types a WAN doesn't tell.
-void expectEntity(Wans& wans, const QString& wan, const QString& type)
+/// The entity of a type that a WAN has; empty if it has none, and nothing for types of which it
+/// doesn't tell.
+std::optional<QString> entityOf(const AspWanDetails& details, const QString& type)
 {
-    const AspWanDetails details = wans.details(wan);
     const struct {
         const char* type;
-        const QString& instance;
+        QString instance;
     } entities[] = {{"pvc", details.pvcInstance},          {"rfc2684", details.rfc2684Instance},
                     {"pppox", details.pppoxInstance},      {"static", details.staticInstance},
                     {"wan_vlan", details.wanVlanInstance}, {"dhcpc", details.dhcpcInstance},
                     {"vpn", details.vpnInstances.value(0)}};
     for (const auto& entity : entities) {
-        if (type == QLatin1String(entity.type) && entity.instance.isEmpty())
-            throw Failure{GatewayFailed, word("%1 has no %2 entity").arg(wan, type)};
+        if (type == QLatin1String(entity.type))
+            return entity.instance;
     }
+    return std::nullopt;
 }
 
 void deleteEntity(Session& session, const QString& wan, const QString& type)
@@ -104,9 +105,15 @@ void deleteEntity(Session& session, const QString& wan, const QString& type)
     Gateway& gateway = session.gateway();
     Wans wans(gateway);
     wans.expect({wan});
-    expectEntity(wans, wan, type);
-    gateway.demand(word("delete the %1 entity of %2").arg(type, wan),
-                   [&](auto& error) { return wans.facade().deleteEntity(wan, type, error); });
+    const auto entity = entityOf(wans.details(wan), type);
+    // The gateway would be asked to delete an entity without a name.
+    if (entity && entity->isEmpty())
+        throw Failure{GatewayFailed, word("%1 has no %2 entity").arg(wan, type)};
+    const QString what = word("delete the %1 entity of %2").arg(type, wan);
+    gateway.demand(what, [&](auto& error) { return wans.facade().deleteEntity(wan, type, error); });
+    // No error tells of it if the gateway refused to tell the library what to delete.
+    if (entity && entity == entityOf(wans.details(wan), type))
+        throw Failure{GatewayFailed, word("can't %1: the gateway didn't do it").arg(what)};
     session.output().printDone(word("The %1 entity of %2 is deleted.").arg(type, wan));
 }
 
