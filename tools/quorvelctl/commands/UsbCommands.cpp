@@ -130,8 +130,13 @@ const struct {
 
 AspUsbHostAdvancedSettings readSharing(Gateway& gateway, AspUsbHostSettingsFacade& port)
 {
-    return gateway.ask(QStringLiteral("read the sharing settings"),
-                       [&](auto& error) { return port.getUsbHostAdvancedSettings(error); });
+    const auto settings =
+        gateway.ask(QStringLiteral("read the sharing settings"),
+                    [&](auto& error) { return port.getUsbHostAdvancedSettings(error); });
+    if (settings.instances.connInstance.isEmpty() && settings.instances.sambaInstance.isEmpty())
+        throw Failure{GatewayFailed, QStringLiteral("can't read the sharing settings: the gateway "
+                                                    "doesn't tell where they are")};
+    return settings;
 }
 
 void writeSharing(Gateway& gateway, AspUsbHostSettingsFacade& port,
