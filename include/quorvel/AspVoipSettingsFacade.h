@@ -14,8 +14,8 @@
 namespace quorvel
 {
 
-/// Told how far the reading of a call log is: `page` of `pages` has been asked for, from 1, and
-/// `error` is what the reading would report if it ended there.
+/// Told how far the reading of a call log is: `page` of `pages` has been asked for, and `error` is
+/// what the reading would report if it ended there. Page 0 is the number of calls.
 using AspVoipCallHistoryProgress =
     std::function<void(int page, int pages, AspWebAppErrorCodes error)>;
 
@@ -73,9 +73,10 @@ public:
     /// most. Aborting pending requests ends one page only.
     QList<AspVoipCallHistory> getVoipCallHistory(AspVoipCallHistoryFilter filter,
                                                  AspWebAppErrorCodes& error);
-    /// The same, and calls `progress` after each page, on the calling thread, between two
-    /// exchanges: so a host can show how far it is, and knows of pages that are left out. An empty
-    /// `progress` is not called; what it throws ends the reading.
+    /// The same, and calls `progress` after each exchange that succeeds or leaves out a page, on
+    /// the calling thread: so a host can show how far it is, and knows of pages that are left out
+    /// and of a gateway that doesn't tell the number of calls. An empty `progress` is not called;
+    /// what it throws ends the reading.
     QList<AspVoipCallHistory> followVoipCallHistory(AspVoipCallHistoryFilter filter,
                                                     const AspVoipCallHistoryProgress& progress,
                                                     AspWebAppErrorCodes& error);

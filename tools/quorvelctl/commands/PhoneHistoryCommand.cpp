@@ -78,15 +78,17 @@ QList<LoggedCall> readCalls(Gateway& gateway, int line, int kind)
         const auto calls = phone->followVoipCallHistory(
             {line, kind, 0, 0, 0},
             [&](int page, int pages, AspWebAppErrorCodes pageError) {
-                shown.show(QStringLiteral("Reading the calls of line %1: page %2 of %3")
-                               .arg(line)
-                               .arg(page)
-                               .arg(pages));
+                if (page > 0)
+                    shown.show(QStringLiteral("Reading the calls of line %1: page %2 of %3")
+                                   .arg(line)
+                                   .arg(page)
+                                   .arg(pages));
                 if (firstError == AspWebAppNoError)
                     firstError = pageError;
             },
             error);
-        // The library leaves out a page that fails; a log with a hole is none to be relied on.
+        // The library leaves out a page that fails, and reads a log whose length the gateway
+        // refuses to tell as empty; a log with a hole is none to be relied on.
         if (firstError != AspWebAppNoError)
             error = firstError;
         return calls;
