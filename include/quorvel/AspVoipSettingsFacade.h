@@ -14,8 +14,8 @@
 namespace quorvel
 {
 
-/// Told how far the reading of a call log is: `page` of `pages` has been asked for, from 1, and
-/// `error` is what the reading would report if it ended there.
+/// Told how far the reading of a call log is: `page` of `pages` has been asked for, and `error` is
+/// what the reading would report if it ended there. Page 0 is the number of calls.
 using AspVoipCallHistoryProgress =
     std::function<void(int page, int pages, AspWebAppErrorCodes error)>;
 
@@ -30,8 +30,9 @@ using AspVoipCallHistoryProgress =
 /// from the host's configuration, read anew at each use: OSTRA_CONFIG_DEFAULT_FXS_MINGAIN and
 /// OSTRA_CONFIG_DEFAULT_FXS_MAXGAIN for lines, OSTRA_CONFIG_DEFAULT_FXO_MINGAIN and
 /// OSTRA_CONFIG_DEFAULT_FXO_MAXGAIN for the analogue port. A value that is no number leaves the
-/// end as it was, at first 0. Percentages are rounded up in both directions, so what was written
-/// may be read back higher.
+/// end as it was, at first 0. In a range without extent gains read as empty texts, and each one
+/// that is written becomes its end. Percentages are rounded up in both directions, so what was
+/// written may be read back higher.
 ///
 /// An older generation of gateways serves only the write of an account: it reports no lines, gains
 /// and calls.
@@ -72,9 +73,10 @@ public:
     /// most. Aborting pending requests ends one page only.
     QList<AspVoipCallHistory> getVoipCallHistory(AspVoipCallHistoryFilter filter,
                                                  AspWebAppErrorCodes& error);
-    /// The same, and calls `progress` after each page, on the calling thread, between two
-    /// exchanges: so a host can show how far it is, and knows of pages that are left out. An empty
-    /// `progress` is not called; what it throws ends the reading.
+    /// The same, and calls `progress` after each exchange that succeeds or leaves out a page, on
+    /// the calling thread: so a host can show how far it is, and knows of pages that are left out
+    /// and of a gateway that doesn't tell the number of calls. An empty `progress` is not called;
+    /// what it throws ends the reading.
     QList<AspVoipCallHistory> followVoipCallHistory(AspVoipCallHistoryFilter filter,
                                                     const AspVoipCallHistoryProgress& progress,
                                                     AspWebAppErrorCodes& error);

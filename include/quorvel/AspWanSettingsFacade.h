@@ -75,8 +75,9 @@ public:
     /// name, as "pvc-1"; empty if the gateway created none.
     ///
     /// Two exchanges, which keep other calls of this family out. If the second fails, `error`
-    /// tells, and the result is the name of the entity that the first one created. A gateway that
-    /// creates none is asked to add an entity without a name all the same.
+    /// tells, and the result is the name of the entity that the first one created. If the session
+    /// ends between them the entity is added all the same, but its name gets lost: the result is
+    /// empty. A gateway that creates none is asked to add an entity without a name all the same.
     QString addEntity(const QString& wan, const QString& entityType, AspWebAppErrorCodes& error);
     /// Stops and deletes the entity of a type that `wan` has and takes it from the WAN. A gateway
     /// whose WAN has none is asked to delete an entity without a name all the same.

@@ -105,17 +105,21 @@ QList<AspVoipCallHistory> AspVoipSettingsFacade::followVoipCallHistory(
     if (call.ask(&Cpe::getVoipImplementor, &V::getCallEntriesCount, QString::number(filter.line),
                  wire::voice0)) {
         const int count = claimedCalls(call.reply());
-        const int lastPage = count / callsPerPage;
+        const int pages = qMax(count / callsPerPage + 1, 0);
+        const auto tell = [&](int page) {
+            call.reportError();
+            if (progress)
+                progress(page, pages, error);
+        };
         filter.pageSize = callsPerPage;
-        for (int page = 0; page <= lastPage; ++page) {
+        tell(0);
+        for (int page = 0; page < pages; ++page) {
             filter.firstEntry = page * callsPerPage;
             filter.lastEntry = qMin(filter.firstEntry + callsPerPage - 1, count);
             dropCalls(call.reply());
             if (call.ask(&Cpe::getVoipImplementor, &V::getVoipCallHistory, filter, wire::voice0))
                 appendCalls(calls, filter, call.reply());
-            call.reportError();
-            if (progress)
-                progress(page + 1, lastPage + 1, error);
+            tell(page + 1);
         }
     }
     call.reportError();

@@ -203,8 +203,10 @@ TEST_F(UntypedConnection, IsRefusedOverEthernetWithTheQueueEmptied)
 
 TEST_F(UntypedConnection, LeavesTheFamilyUsable)
 {
-    const WrittenConnection untyped{Link::Ethernet, "pppoe", {{"wan-3.type", ""}}};
-    EXPECT_FALSE(untyped.write(*cpe->getAdslImplementor(), result));
+    for (const Link link : {Link::Dsl, Link::Ethernet}) {
+        const WrittenConnection untyped{link, "pppoe", {{"wan-3.type", ""}}};
+        EXPECT_FALSE(untyped.write(*cpe->getAdslImplementor(), result));
+    }
     gateway.reply(reply101({{"dsl-1", "status.mode", "ADSL2+"}}));
     EXPECT_TRUE(cpe->getAdslImplementor()->getDslState(text("dsl-1"), result));
     EXPECT_EQ(entries(result), lines({"dsl-1.status.mode=ADSL2+", "response=1.0.1"}));

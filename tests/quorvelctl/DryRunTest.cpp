@@ -154,15 +154,27 @@ const Write writes[] = {
     {"EthBridge", "set-eth wan-1 --link-type bridge", 12},
     {"EthStatic", "set-eth wan-1 --link-type static" + std::string(addresses), 21}};
 
-class QuorvelctlDryRun : public QuorvelctlInternetWrite, public testing::WithParamInterface<Write>
+/// A dry run, and the real one to compare it with.
+class DryRunOfAGateway : public QuorvelctlInternetWrite
+{
+protected:
+    using QuorvelctlInternetWrite::QuorvelctlInternetWrite;
+
+    void expectTheSame(const std::string& arguments, std::size_t commands) const;
+};
+
+class QuorvelctlDryRun : public DryRunOfAGateway, public testing::WithParamInterface<Write>
 {
 };
 
-} // namespace
-
-TEST_P(QuorvelctlDryRun, PrintsExactlyWhatTheWriteSends)
+class QuorvelctlDryRunOfTheOlderGateway : public DryRunOfAGateway
 {
-    const std::string arguments = "internet " + GetParam().arguments;
+protected:
+    QuorvelctlDryRunOfTheOlderGateway() : DryRunOfAGateway("classic") {}
+};
+
+void DryRunOfAGateway::expectTheSame(const std::string& arguments, std::size_t commands) const
+{
     const std::map<std::string, std::string> secrets{{"QUORVELCTL_PPPOX_PASSWORD", "p <&> q"},
                                                      {"QUORVELCTL_VPN_PASSWORD", "v <&> w"},
                                                      {"QUORVELCTL_L2TP_PASSWORD", "l <&> m"}};
@@ -174,7 +186,20 @@ TEST_P(QuorvelctlDryRun, PrintsExactlyWhatTheWriteSends)
     EXPECT_EQ(real.status, 0) << real.errors;
     const auto sent = sentCommands(simulator.exchanges().back().requestBody);
     EXPECT_EQ(printedCommands(dry.output), sent);
-    EXPECT_EQ(sent.size(), GetParam().commands);
+    EXPECT_EQ(sent.size(), commands);
+}
+
+} // namespace
+
+TEST_P(QuorvelctlDryRun, PrintsExactlyWhatTheWriteSends)
+{
+    expectTheSame("internet " + GetParam().arguments, GetParam().commands);
+}
+
+// In the other dialect.
+TEST_F(QuorvelctlDryRunOfTheOlderGateway, PrintsExactlyWhatTheWriteSends)
+{
+    expectTheSame("internet set-dsl wan-0 --link-type pppoe", 28);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, QuorvelctlDryRun, testing::ValuesIn(writes),

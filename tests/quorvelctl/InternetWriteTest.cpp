@@ -95,6 +95,7 @@ TEST_F(QuorvelctlInternetWrite, RefusesWhatIsMissing)
 {
     const std::string pppoe = "internet set-eth wan-1 --link-type pppoe";
     expectComplaint(pppoe, 2, "no PPP user name: give --pppox-username");
+    expectComplaint(pppoe + " --pppox-username ''", 2, "no PPP user name: give --pppox-username");
     expectComplaint(pppoe + " --pppox-username ada", 2,
                     "no PPP password: give --pppox-password-file, --pppox-password-stdin or the "
                     "environment variable QUORVELCTL_PPPOX_PASSWORD");
@@ -135,7 +136,17 @@ TEST_F(QuorvelctlInternetWrite, RefusesWordsThatMeanNothing)
         {"internet set-dsl wan-0 --link-type PPPoE",
          "--link-type: PPPoE not in {pppoe,pppoa,russian_pppoe,vpn,l2tp,dhcp,bridge,static}"},
         {"internet set-dsl wan-0", "--link-type is required"},
-        {"internet set-dsl wan-0 --link-type static --static-ip 192.0.2", "--static-ip"},
+        {"internet set-dsl wan-0 --link-type static --static-ip 192.0.2",
+         "--static-ip: an address is four numbers, as 192.0.2.1, and not 192.0.2"},
+        {"internet set-dsl wan-0 --link-type static --static-ip 192.0.2.1.", "192.0.2.1."},
+        {"internet set-dsl wan-0 --link-type static --static-mask 255.255.255.0x0", "0x0"},
+        {"internet set-dsl wan-0 --link-type static --static-gateway 192.0.2.010", "192.0.2.010"},
+        {"internet set-dsl wan-0 --link-type static --static-dns1 192.0.2.256", "192.0.2.256"},
+        {"internet set-eth wan-1 --link-type dhcp --wan-vlan-vlanid seven",
+         "--wan-vlan-vlanid: no number of a VLAN or a circuit: seven"},
+        {"internet set-dsl wan-0 --link-type pppoe --pvc-vci 65536", "--pvc-vci"},
+        {"internet set-dsl wan-0 --link-type pppoe --pvc-vpi -1", "--pvc-vpi"},
+        {"internet set-dsl wan-0 --link-type pppoe --pvc-vlanid 0x7", "--pvc-vlanid"},
         {"internet set-dsl wan-0 --link-type pppoe --current-annex-mode c", "c not in {a,b}"},
         {"internet set-dsl wan-0 --link-type pppoe --wan-vlan-vlanid 7", "--wan-vlan-vlanid"},
         {"internet set-eth wan-1 --link-type dhcp --pvc-vpi 8", "--pvc-vpi"}};
@@ -152,7 +163,31 @@ TEST_F(QuorvelctlInternetWrite, RefusesAWanOverTheOtherMedium)
 {
     expectComplaint("internet set-eth wan-0 --link-type dhcp", 1, "wan-0 is no WAN over Ethernet");
     expectComplaint("internet set-dsl wan-1 --link-type dhcp", 1, "wan-1 is no WAN over DSL");
+    expectComplaint("internet set-eth wan-2 --link-type dhcp", 1, "wan-2 is no WAN over Ethernet");
+    expectComplaint("internet set-dsl wan-2 --link-type dhcp", 1, "wan-2 is no WAN over DSL");
     EXPECT_FALSE(wasWrittenTo());
+}
+
+TEST_F(QuorvelctlInternetWrite, RefusesEntitiesThatTheGatewayHasNot)
+{
+    expectComplaint("internet set-eth wan-1 --link-type dhcp --wan-vlan-instance wan_vlan-9", 1,
+                    "can't read wan_vlan-9: the gateway reports error 5");
+    expectComplaint("internet set-dsl wan-0 --link-type pppoe --pppox-instance pppox-9", 1,
+                    "can't read pppox-9: the gateway reports error 5");
+    EXPECT_FALSE(wasWrittenTo());
+}
+
+TEST_F(QuorvelctlInternetWrite, ClearsWhatIsNamedAndEmpty)
+{
+    EXPECT_EQ(run("internet set-eth wan-1 --link-type static --static-ip 192.0.2.9 --static-mask "
+                  "255.255.255.0 --static-gateway 192.0.2.1 --wan-vlan-vlanid ''")
+                  .status,
+              0);
+    EXPECT_EQ(simulator.storedValue("static-1", "gateway"), "192.0.2.1");
+    EXPECT_EQ(simulator.storedValue("wan_vlan-0", "vlanid"), "");
+    EXPECT_EQ(run("internet set-eth wan-1 --link-type static --static-gateway ''").status, 0);
+    EXPECT_EQ(simulator.storedValue("static-1", "gateway"), "");
+    EXPECT_EQ(simulator.storedValue("static-1", "ip"), "192.0.2.9");
 }
 
 TEST_F(QuorvelctlInternetWrite, RefusesAnAnnexOfALineWithoutAChoice)

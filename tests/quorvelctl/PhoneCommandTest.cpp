@@ -177,6 +177,17 @@ TEST_F(QuorvelctlPhone, NeverWritesAnAddressWithoutADomain)
     EXPECT_EQ(stored(line1 + "SIP.URI"), "SIP:5550143@example.org");
 }
 
+TEST_F(QuorvelctlPhone, NeverWritesAnAddressWithoutAUser)
+{
+    simulator.setValue("voice-0", line0 + "SIP.URI", "");
+    const Outcome result = run("phone set 0 --login ada");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "quorvelctl: line 0 has no SIP user: give --sip-user\n");
+    EXPECT_EQ(stored(line0 + "SIP.AuthUserName"), "line-a1903");
+    EXPECT_EQ(run("phone set 0 --login ada --sip-user 5550177").status, 0);
+    EXPECT_EQ(stored(line0 + "SIP.URI"), "SIP:5550177@sip.example.net");
+}
+
 TEST_F(QuorvelctlPhone, ShowsTheGains)
 {
     const Outcome result = runWith(

@@ -61,6 +61,14 @@ TEST_F(QuorvelctlCalls, OfKind0AreNoneOnALineWithoutCalls)
     EXPECT_EQ(run("phone history --line 2").output, "No calls.\n");
 }
 
+// Whether a line is there is asked of empty logs only.
+TEST_F(QuorvelctlCalls, OfALineAreListedAlsoIfTheLinesCannotBe)
+{
+    spoil("close key=AllLineList");
+    EXPECT_EQ(linesOf(run("phone history --line 1").output), 4);
+    EXPECT_EQ(run("phone history --line 2").status, 1);
+}
+
 TEST_F(QuorvelctlCalls, AreWrittenAsCsvInTheGatewaysOrder)
 {
     simulator.setStatus("voice-0", "call5.destination", "Ada, \"at home\"");

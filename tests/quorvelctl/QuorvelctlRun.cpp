@@ -26,12 +26,14 @@ void start(QProcess& process, const std::string& arguments, const Surroundings& 
         set(name.c_str(), value);
 
     process.setProcessEnvironment(environment);
-    const QString command =
-        QStringLiteral("exec \"$0\" \"$@\" ") + QString::fromStdString(surroundings.redirections);
-    process.start(
-        QStringLiteral("/bin/sh"),
-        QStringList{QStringLiteral("-c"), command, QStringLiteral(QUORVELCTL)} +
-            QString::fromStdString(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    QStringList words{QStringLiteral("-c"),
+                      QStringLiteral("exec \"$0\" \"$@\" ") +
+                          QString::fromStdString(surroundings.redirections),
+                      QStringLiteral(QUORVELCTL)};
+    for (QString word :
+         QString::fromStdString(arguments).split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        words << word.replace(QStringLiteral("''"), QString());
+    process.start(QStringLiteral("/bin/sh"), words);
 }
 
 Outcome runQuorvelctl(const std::string& arguments, const Surroundings& surroundings)

@@ -29,7 +29,7 @@ struct Surroundings {
 };
 
 /// Gives a process its surroundings, and starts quorvelctl in it with arguments separated by
-/// blanks.
+/// blanks; '' is an empty one.
 void start(QProcess& process, const std::string& arguments, const Surroundings& surroundings);
 
 /// Runs quorvelctl to its end.

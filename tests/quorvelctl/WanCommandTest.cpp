@@ -195,6 +195,15 @@ TEST_F(QuorvelctlWan, TellsAnEntityThatIsCreatedButNotAdded)
                     "created, but not added)");
 }
 
+// The library loses the name of what was created then.
+TEST_F(QuorvelctlWan, TellsTheNewEntityAlsoIfTheSessionEndsBeforeItIsAdded)
+{
+    spoil("session-expired 1 key=add_entity");
+    expectOutput("wan add-entity wan-1 l2tp", "WAN:               wan-1\n"
+                                              "Created and added: l2tp-1\n");
+    EXPECT_EQ(simulator.storedValue("wan-1", "entities.l2tp"), "l2tp-1");
+}
+
 TEST_F(QuorvelctlWan, AddsAndTakesAnInterface)
 {
     expectOutput("wan add-iface wan-1 eth0.5", "eth0.5 is added to wan-1.\n");

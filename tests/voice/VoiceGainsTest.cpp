@@ -106,6 +106,14 @@ TEST_F(VoiceGains, GoOutAsTheMinimumOfARangeWithoutExtent)
     EXPECT_TRUE(matchesGolden(text("voice/setGainSettingsWithoutExtent"), transcript(gateway)));
 }
 
+TEST_F(VoiceGains, GoOutAsZeroWithoutAnyRange)
+{
+    configureGains("", "", "", "");
+    gateway.reply(reply101({{"webapp", "error", "0"}}));
+    EXPECT_TRUE(facade.setGainSettings(text("voice-0"), {withGains("0", "50", "100")}, error));
+    EXPECT_TRUE(matchesGolden(text("voice/setGainSettingsWithoutRange"), transcript(gateway)));
+}
+
 TEST_F(VoiceGains, StayAsTheyAreIfUnsetOrNoNumber)
 {
     gateway.reply(reply101({{"webapp", "error", "0"}}));

@@ -52,7 +52,7 @@ protected:
         return names;
     }
 
-    /// What is told after each page: "page/pages error".
+    /// What is told after the number of calls and after each page: "page/pages error".
     QStringList progress(int callType)
     {
         QStringList told;
@@ -229,21 +229,35 @@ TEST_F(VoiceHistory, DoesNotRepeatCallsOfThePageBeforeAShorterOne)
 TEST_F(VoiceHistory, TellsAfterEachPageHowFarItIs)
 {
     script45Calls();
-    EXPECT_EQ(progress(1), lines({"1/3 0", "2/3 0", "3/3 0"}));
+    EXPECT_EQ(progress(1), lines({"0/3 0", "1/3 0", "2/3 0", "3/3 0"}));
     EXPECT_TRUE(matchesGolden(text("voice/getVoipCallHistoryOf45Calls"), transcript(gateway)));
 }
 
 TEST_F(VoiceHistory, TellsOfAPageThatFailsThoughALaterOneSucceeds)
 {
     gateway.reply(callerCount("45")).reply(page(0, 20)).sendRaw(failedReply).reply(page(40, 5));
-    EXPECT_EQ(progress(3), lines({"1/3 0", "2/3 29", "3/3 0"}));
+    EXPECT_EQ(progress(3), lines({"0/3 0", "1/3 0", "2/3 29", "3/3 0"}));
     EXPECT_EQ(error, 0);
 }
 
 TEST_F(VoiceHistory, TellsOfAPageThatTheGatewayRefuses)
 {
     gateway.reply(callerCount("25")).reply(page(0, 0, "7")).reply(page(20, 5));
-    EXPECT_EQ(progress(3), lines({"1/2 7", "2/2 0"}));
+    EXPECT_EQ(progress(3), lines({"0/2 0", "1/2 7", "2/2 0"}));
+}
+
+TEST_F(VoiceHistory, TellsThatTheGatewayRefusesTheNumberOfCalls)
+{
+    gateway.reply(reply101({{"webapp", "error", "7"}})).reply(page(0, 0));
+    EXPECT_EQ(progress(3), lines({"0/1 7", "1/1 0"}));
+    EXPECT_EQ(error, 0);
+}
+
+TEST_F(VoiceHistory, TellsOfNoPagesIfTheNumberOfCallsIsNegative)
+{
+    gateway.reply(callerCount("-45"));
+    EXPECT_EQ(progress(3), lines({"0/0 0"}));
+    EXPECT_EQ(gateway.connections(), 1);
 }
 
 TEST_F(VoiceHistory, TellsNothingIfTheNumberOfCallsCannotBeRead)

@@ -38,6 +38,18 @@ TEST_F(WanFacade, NamesTheEntityThatWasCreatedButNotAdded)
                                "pppox")});
 }
 
+TEST_F(WanFacade, LosesTheNameOfAnEntityThatIsAddedInANewSession)
+{
+    gateway.reply(reply101({{"devmgr-0", "create_inst.pvc", "pvc-4"}, {"webapp", "error", "0"}}))
+        .reply(reply101({{"webapp", "error", "1"}}))
+        .logIn("SID=2")
+        .reply(done);
+    EXPECT_EQ(facade.addEntity(text("wan-3"), text("pvc"), error), QString());
+    EXPECT_EQ(error, 0);
+    EXPECT_EQ(lines().last(), text("ERROR AspWanSettingsFacade::addEntity-> Created entity -> "));
+    EXPECT_TRUE(matchesGolden(text("wan/addEntityInANewSession"), transcript(gateway)));
+}
+
 TEST_F(WanFacade, DeletesTheEntityOfTheWan)
 {
     gateway.reply(reply101({{"wan-3", "entities.pvc", "pvc-4"}, {"webapp", "error", "8"}}))

@@ -62,7 +62,7 @@ enum class Use {
 };
 
 /// What texts are taken for one of a connection.
-enum class Form { Any, Address, Annex, Annexes };
+enum class Form { Any, Address, Number, Annex, Annexes };
 
 /// One text of a connection: an option where it is written, a line or a JSON key where it is shown.
 struct ConnectionText {

@@ -76,10 +76,7 @@ void readLine(Connection& connection, bool withState, Reader& reader)
 /// The only instance of a manager; empty if it has none or several.
 QString onlyInstance(Gateway& gateway, const QString& manager)
 {
-    const QStringList instances =
-        gateway.askNames(QLatin1String("list the instances of ") + manager, [&](auto& error) {
-            return gateway.general().getManagerInstanceList(manager, error);
-        });
+    const QStringList instances = gateway.instancesOf(manager);
     return instances.size() == 1 ? instances.first() : QString();
 }
 

@@ -48,6 +48,12 @@ void Gateway::explainUnusable(qint64 waitedMs) const
                   QStringLiteral("%1 answers, but not as a gateway does").arg(address())};
 }
 
+QStringList Gateway::instancesOf(const QString& manager)
+{
+    return askNames(QLatin1String("list the instances of ") + manager,
+                    [&](auto& error) { return general().getManagerInstanceList(manager, error); });
+}
+
 void Gateway::expectSuccess(const QString& what, AspWebAppErrorCodes error) const
 {
     const auto fail = [&](ExitStatus status, const QString& why) {

@@ -65,6 +65,9 @@ public:
             refuse(what);
     }
 
+    /// Names of the instances of a manager, as "pppox".
+    QStringList instancesOf(const QString& manager);
+
     /// A facade of the library's, which the gateway lacks if it is empty.
     template <typename Facade>
     Facade& require(const boost::shared_ptr<Facade>& facade, const QString& function)

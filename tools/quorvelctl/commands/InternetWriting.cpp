@@ -3,10 +3,13 @@
 #include "Connection.h"
 #include "DryRun.h"
 #include "Failure.h"
+#include "Numbers.h"
 #include "Session.h"
 #include "Wans.h"
 
 #include <CLI/Validators.hpp>
+#include <QStringList>
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <string>
@@ -127,12 +130,12 @@ void takeSecrets(const Given& given, int parts, const std::map<std::string, QStr
     }
 }
 
-/// Refuses a WAN that runs over the other medium.
+/// Refuses a WAN that runs over another medium, a modem included.
 void expectMedium(const AspWanDetails& details, const Given& given)
 {
     const bool dsl = given.medium == Medium::Dsl;
-    if (details.connectionType.compare(QLatin1String(dsl ? "eth" : "dsl"), Qt::CaseInsensitive) ==
-        0)
+    const QStringList others{QLatin1String(dsl ? "eth" : "dsl"), QStringLiteral("serial")};
+    if (others.contains(details.connectionType, Qt::CaseInsensitive))
         throw Failure{GatewayFailed, QStringLiteral("%1 is no WAN over %2")
                                          .arg(QString::fromStdString(given.wan),
                                               QLatin1String(dsl ? "DSL" : "Ethernet"))};
@@ -226,7 +229,20 @@ void run(Session& session, const Given& given)
 /// Takes the empty text too, which clears what the gateway has.
 std::string refuseUnlessAddress(const std::string& text)
 {
-    return text.empty() ? std::string() : CLI::ValidIPV4(text);
+    const QStringList parts = QString::fromStdString(text).split(QLatin1Char('.'));
+    const bool isAddress = parts.size() == 4 &&
+                           std::all_of(parts.cbegin(), parts.cend(),
+                                       [](const QString& part) { return isNumberUpTo(part, 255); });
+    return text.empty() || isAddress ? std::string()
+                                     : "an address is four numbers, as 192.0.2.1, and not " + text;
+}
+
+/// The same for the number of a VLAN or of a circuit, none of which is larger.
+std::string refuseUnlessNumber(const std::string& text)
+{
+    return text.empty() || isNumberUpTo(QString::fromStdString(text), 65535)
+               ? std::string()
+               : "no number of a VLAN or a circuit: " + text;
 }
 
 void addText(CLI::App& command, const ConnectionText& text, Given& given)
@@ -239,6 +255,8 @@ void addText(CLI::App& command, const ConnectionText& text, Given& given)
         heading(text).toStdString());
     if (text.form == Form::Address)
         added->check(CLI::Validator(refuseUnlessAddress, "ADDRESS"));
+    else if (text.form == Form::Number)
+        added->check(CLI::Validator(refuseUnlessNumber, "NUMBER"));
     else if (text.form == Form::Annex)
         added->check(CLI::IsMember({"a", "b"}));
     else if (text.form == Form::Annexes)

@@ -1,5 +1,6 @@
 #include "Failure.h"
 #include "GainRanges.h"
+#include "Numbers.h"
 #include "commands/Commands.h"
 #include "commands/Phone.h"
 
@@ -122,11 +123,16 @@ void check(const AccountChange& change)
     if (user != change.texts.end() && user->second.find_first_of("@:") != std::string::npos)
         throw Failure{WrongUsage,
                       QStringLiteral("the SIP user is what stands before the @ of the address")};
+    if (user != change.texts.end() && user->second.empty())
+        throw Failure{WrongUsage, QStringLiteral("the SIP user is empty")};
 }
 
 /// Fails if writing the account back would spoil what the library doesn't know of it.
 void expectWritable(const AspVoipAccount& account, bool hasNewPassword)
 {
+    if (account.uri.isEmpty())
+        throw Failure{GatewayFailed,
+                      QStringLiteral("line %1 has no SIP user: give --sip-user").arg(account.id)};
     if (account.userAgentDomain.isEmpty() && account.proxyServer.isEmpty())
         throw Failure{GatewayFailed, QStringLiteral("line %1 has neither domain nor proxy server: "
                                                     "give --domain")
@@ -252,12 +258,19 @@ void addSet(CLI::App& group, Session& session)
     write->callback([&session, change] { setAccount(session, *change); });
 }
 
+std::string refuseUnlessPercentage(const std::string& text)
+{
+    return isNumberUpTo(QString::fromStdString(text), 100)
+               ? std::string()
+               : "a gain is a number from 0 to 100, and not " + text;
+}
+
 void addGains(CLI::App& group, Session& session)
 {
     auto* command = group.add_subcommand("gains", "Show the gains, or change those of a line");
     const auto change = std::make_shared<GainChange>();
     command->add_option("line", change->line, "Number of the line")->type_name("NUMBER");
-    const auto percentage = CLI::Range(0, 100).description(std::string());
+    const CLI::Validator percentage(refuseUnlessPercentage, std::string());
     command->add_option("--transmit", change->transmit, "Loudness towards the network, 0 to 100")
         ->type_name("PERCENT")
         ->check(percentage);

@@ -61,6 +61,14 @@ QList<int> linesOf(Gateway& gateway)
     return lines;
 }
 
+/// Fails if there is no such line: its log is as empty as that of a line without calls.
+void expectLine(Gateway& gateway, int line)
+{
+    if (!linesOf(gateway).contains(line))
+        throw Failure{GatewayFailed,
+                      QStringLiteral("%1 has no line %2").arg(gateway.address()).arg(line)};
+}
+
 QList<LoggedCall> readCalls(Gateway& gateway, int line, int kind)
 {
     const auto phone = telephony(gateway);
@@ -70,15 +78,17 @@ QList<LoggedCall> readCalls(Gateway& gateway, int line, int kind)
         const auto calls = phone->followVoipCallHistory(
             {line, kind, 0, 0, 0},
             [&](int page, int pages, AspWebAppErrorCodes pageError) {
-                shown.show(QStringLiteral("Reading the calls of line %1: page %2 of %3")
-                               .arg(line)
-                               .arg(page)
-                               .arg(pages));
+                if (page > 0)
+                    shown.show(QStringLiteral("Reading the calls of line %1: page %2 of %3")
+                                   .arg(line)
+                                   .arg(page)
+                                   .arg(pages));
                 if (firstError == AspWebAppNoError)
                     firstError = pageError;
             },
             error);
-        // The library leaves out a page that fails; a log with a hole is none to be relied on.
+        // The library leaves out a page that fails, and reads a log whose length the gateway
+        // refuses to tell as empty; a log with a hole is none to be relied on.
         if (firstError != AspWebAppNoError)
             error = firstError;
         return calls;
@@ -119,6 +129,8 @@ void history(Session& session, const Wanted& wanted)
     QList<LoggedCall> calls;
     for (const int line : lines)
         calls += readCalls(gateway, line, wanted.kind);
+    if (wanted.line >= 0 && calls.isEmpty())
+        expectLine(gateway, wanted.line);
     print(session, calls, wanted.csv);
 }
 

@@ -89,19 +89,29 @@ struct DiskAction {
     std::string disk;
 };
 
+QList<AspUsbHostDisk>::const_iterator diskNamed(const QList<AspUsbHostDisk>& disks,
+                                                const QString& id)
+{
+    return std::find_if(disks.cbegin(), disks.cend(),
+                        [&](const AspUsbHostDisk& disk) { return disk.deviceId == id; });
+}
+
 void run(Session& session, const DiskAction& action)
 {
     Gateway& gateway = session.gateway();
     const auto port = usbPort(gateway);
     const QString id = QString::fromStdString(action.disk);
+    const QList<AspUsbHostDisk> before = readDevices(gateway).disks;
+    if (diskNamed(before, id) == before.cend())
+        throw Failure{GatewayFailed,
+                      QStringLiteral("%1 has no disk %2").arg(gateway.address(), id)};
     const QString what = QStringLiteral("%1 disk %2").arg(QLatin1String(action.name), id);
     // Its result is false in any case: the error tells what the gateway thinks of it, and the list
     // of devices what came of it.
     gateway.ask(what, [&](auto& error) { return (*port.*action.operation)(id, error); });
     const QList<AspUsbHostDisk> disks = readDevices(gateway).disks;
-    const bool mounted = std::any_of(disks.cbegin(), disks.cend(), [&](const AspUsbHostDisk& disk) {
-        return disk.deviceId == id && isMounted(disk);
-    });
+    const auto found = diskNamed(disks, id);
+    const bool mounted = found != disks.cend() && isMounted(*found);
     if (mounted != action.mounts)
         throw Failure{GatewayFailed,
                       QStringLiteral("can't %1: the gateway didn't do it").arg(what)};
@@ -120,8 +130,13 @@ const struct {
 
 AspUsbHostAdvancedSettings readSharing(Gateway& gateway, AspUsbHostSettingsFacade& port)
 {
-    return gateway.ask(QStringLiteral("read the sharing settings"),
-                       [&](auto& error) { return port.getUsbHostAdvancedSettings(error); });
+    const auto settings =
+        gateway.ask(QStringLiteral("read the sharing settings"),
+                    [&](auto& error) { return port.getUsbHostAdvancedSettings(error); });
+    if (settings.instances.connInstance.isEmpty() && settings.instances.sambaInstance.isEmpty())
+        throw Failure{GatewayFailed, QStringLiteral("can't read the sharing settings: the gateway "
+                                                    "doesn't tell where they are")};
+    return settings;
 }
 
 void writeSharing(Gateway& gateway, AspUsbHostSettingsFacade& port,

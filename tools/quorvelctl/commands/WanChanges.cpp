@@ -6,6 +6,7 @@
 #include "Words.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -44,11 +45,22 @@ void toggle(Session& session, const Toggle& row, const QString& wan)
     session.output().printDone(word(row.outcome).arg(wan));
 }
 
+/// The first of some names that isn't among others; empty if all are.
+QString firstOther(const QStringList& names, const QStringList& others)
+{
+    for (const QString& name : names) {
+        if (!others.contains(name))
+            return name;
+    }
+    return QString();
+}
+
 void addEntity(Session& session, const QString& wan, const QString& type)
 {
     Gateway& gateway = session.gateway();
     Wans wans(gateway);
     wans.expect({wan});
+    const QStringList before = gateway.instancesOf(type);
     QString created;
     try {
         // It logs its success as an error.
@@ -60,6 +72,9 @@ void addEntity(Session& session, const QString& wan, const QString& type)
             failure.message += word(" (%1 is created, but not added)").arg(created);
         throw;
     }
+    // A session that has to be renewed between creating and adding takes the name with it.
+    if (created.isEmpty())
+        created = firstOther(gateway.instancesOf(type), before);
     if (created.isEmpty())
         throw Failure{GatewayFailed,
                       word("can't add a %1 entity to %2: the gateway created none").arg(type, wan)};
@@ -67,22 +82,22 @@ void addEntity(Session& session, const QString& wan, const QString& type)
         {plainField("wan", "WAN", wan), plainField("entity", "Created and added", created)});
 }
 
-/// Fails if the WAN certainly has no entity of a type: the gateway would be asked to delete an
-/// entity without a name. Of some types a WAN doesn't tell.
-void expectEntity(Wans& wans, const QString& wan, const QString& type)
+/// The entity of a type that a WAN has; empty if it has none, and nothing for types of which it
+/// doesn't tell.
+std::optional<QString> entityOf(const AspWanDetails& details, const QString& type)
 {
-    const AspWanDetails details = wans.details(wan);
     const struct {
         const char* type;
-        const QString& instance;
+        QString instance;
     } entities[] = {{"pvc", details.pvcInstance},          {"rfc2684", details.rfc2684Instance},
                     {"pppox", details.pppoxInstance},      {"static", details.staticInstance},
                     {"wan_vlan", details.wanVlanInstance}, {"dhcpc", details.dhcpcInstance},
                     {"vpn", details.vpnInstances.value(0)}};
     for (const auto& entity : entities) {
-        if (type == QLatin1String(entity.type) && entity.instance.isEmpty())
-            throw Failure{GatewayFailed, word("%1 has no %2 entity").arg(wan, type)};
+        if (type == QLatin1String(entity.type))
+            return entity.instance;
     }
+    return std::nullopt;
 }
 
 void deleteEntity(Session& session, const QString& wan, const QString& type)
@@ -90,9 +105,15 @@ void deleteEntity(Session& session, const QString& wan, const QString& type)
     Gateway& gateway = session.gateway();
     Wans wans(gateway);
     wans.expect({wan});
-    expectEntity(wans, wan, type);
-    gateway.demand(word("delete the %1 entity of %2").arg(type, wan),
-                   [&](auto& error) { return wans.facade().deleteEntity(wan, type, error); });
+    const auto entity = entityOf(wans.details(wan), type);
+    // The gateway would be asked to delete an entity without a name.
+    if (entity && entity->isEmpty())
+        throw Failure{GatewayFailed, word("%1 has no %2 entity").arg(wan, type)};
+    const QString what = word("delete the %1 entity of %2").arg(type, wan);
+    gateway.demand(what, [&](auto& error) { return wans.facade().deleteEntity(wan, type, error); });
+    // No error tells of it if the gateway refused to tell the library what to delete.
+    if (entity && entity == entityOf(wans.details(wan), type))
+        throw Failure{GatewayFailed, word("can't %1: the gateway didn't do it").arg(what)};
     session.output().printDone(word("The %1 entity of %2 is deleted.").arg(type, wan));
 }
 
@@ -185,7 +206,9 @@ void addChanges(CLI::App& group, Session& session)
         const auto names = std::make_shared<Names>();
         command->add_option("wan", names->wan, "WAN, as wan-0")->required();
         command->add_option(row.argument, names->other, row.meaning)->required();
-        command->callback([&session, names, run = row.run] {
+        command->callback([&session, names, argument = row.argument, run = row.run] {
+            if (names->other.empty())
+                throw Failure{WrongUsage, word("the %1 is empty").arg(word(argument))};
             run(session, QString::fromStdString(names->wan), QString::fromStdString(names->other));
         });
     }
