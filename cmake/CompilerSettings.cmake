@@ -27,6 +27,16 @@ function(quorvel_own_target target)
     endif()
 endfunction()
 
+# For what uses the command-line library: it is all in headers, and for the sanitizers optimising it
+# takes longer than it saves.
+function(quorvel_command_line_target target)
+    quorvel_own_target(${target})
+    if(QUORVEL_SANITIZE)
+        target_compile_options(${target} PRIVATE -O0)
+    endif()
+    target_link_libraries(${target} PUBLIC CLI11::CLI11)
+endfunction()
+
 # Tests are compiled once and run for seconds: time spent on optimising them is lost, and more than
 # half of the rest would go to reading the same headers again for each file.
 function(quorvel_test_target target)
