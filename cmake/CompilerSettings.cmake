@@ -27,12 +27,14 @@ function(quorvel_own_target target)
     endif()
 endfunction()
 
-# For what uses the command-line library: it is all in headers, and for the sanitizers optimising it
-# takes longer than it saves.
+# For what uses the command-line library: it is all in headers, and optimising all of it for each file
+# takes longer than the programs ever run.
 function(quorvel_command_line_target target)
     quorvel_own_target(${target})
     if(QUORVEL_SANITIZE)
         target_compile_options(${target} PRIVATE -O0)
+    else()
+        target_compile_options(${target} PRIVATE -O1)
     endif()
     target_link_libraries(${target} PUBLIC CLI11::CLI11)
 endfunction()
