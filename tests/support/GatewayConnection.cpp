@@ -58,7 +58,8 @@ ReceivedRequest GatewayConnection::readRequest()
         if (headEnd < 0 && (headEnd = bytes.indexOf("\r\n\r\n")) >= 0)
             request = parseHead(bytes.left(headEnd));
         const int bodyLength = request.header("Content-Length").toInt();
-        if (headEnd >= 0 && bytes.size() >= headEnd + 4 + bodyLength)
+        request.isWhole = headEnd >= 0 && bytes.size() >= headEnd + 4 + bodyLength;
+        if (request.isWhole)
             break;
         char buffer[65536];
         const ssize_t count = ::recv(socket, buffer, sizeof buffer, 0);

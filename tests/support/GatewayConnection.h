@@ -18,6 +18,7 @@ struct ReceivedRequest {
     QByteArray path;
     QByteArray body;
     std::vector<std::pair<QByteArray, QByteArray>> headers;
+    bool isWhole = false; ///< the connection didn't end before the announced length
 
     /// All values of the header of that name, joined by " | "; empty if it is absent.
     QByteArray header(const QByteArray& name) const;

@@ -188,6 +188,12 @@ void ScriptedGateway::startPlayer(int socket)
                        finished});
 }
 
+bool ScriptedGateway::wantsRequestFirst() const
+{
+    std::lock_guard<std::mutex> lock(mutex);
+    return beyondScript && !script.empty() && script.front().reads;
+}
+
 bool ScriptedGateway::takeStep(Step& step)
 {
     std::lock_guard<std::mutex> lock(mutex);
@@ -207,12 +213,18 @@ bool ScriptedGateway::takeStep(Step& step)
 void ScriptedGateway::play(int socket)
 {
     GatewayConnection connection(*this, socket);
+    ReceivedRequest request;
+    if (wantsRequestFirst()) {
+        request = connection.readRequest();
+        if (!request.isWhole)
+            return; // it belongs to an exchange that is over, and the step to the next one
+    }
     Step step;
     if (!takeStep(step))
         return;
-    ReceivedRequest request;
     if (step.reads) {
-        request = connection.readRequest();
+        if (!request.isWhole)
+            request = connection.readRequest();
         record(request, step.expectedPath);
     }
     connection.send(step.answer);

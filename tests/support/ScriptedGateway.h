@@ -95,6 +95,8 @@ private:
     void serve();
     void startPlayer(int socket);
     void play(int socket);
+    /// Whether the next step is for a request while connections without one may come, too.
+    bool wantsRequestFirst() const;
     bool takeStep(Step& step);
     void record(const ReceivedRequest& request, const QByteArray& expectedPath);
     bool releasedWithin(std::chrono::milliseconds time) const;
