@@ -137,7 +137,7 @@ bool NetworkExchange::isAborted() const
 
 void NetworkExchange::receive()
 {
-    received += pending->readAll();
+    received += pending->read(pending->bytesAvailable());
     if (received.size() > largestBody)
         loop.quit();
 }
