@@ -12,6 +12,7 @@
 
 #include <QCoreApplication>
 #include <cstdio>
+#include <cstring>
 
 namespace quorvel::bench
 {
@@ -25,17 +26,23 @@ Contender facadeCall(const General& facade)
             [facade](int calls) { return measured(calls, [&] { askFirmware(facade); }); }};
 }
 
-/// What a call can't do without: the exchange, and for a reply that is worth it the document.
-Contender bareCall(const QString& address, bool withDocument)
+Contender bareCall(const QString& address)
 {
-    return {withDocument ? "bare exchange and QDom work" : "bare exchange", [=](int calls) {
-                return measured(calls, [&] {
-                    if (!withDocument)
-                        bareExchange(address);
-                    else
-                        bareCallWithDocuments(address);
-                });
-            }};
+    return {"bare exchange",
+            [=](int calls) { return measured(calls, [&] { bareExchange(address); }); }};
+}
+
+Contender plainestCall(const QString& address)
+{
+    return {"plainest exchange",
+            [=](int calls) { return measured(calls, [&] { plainestExchange(address); }); }};
+}
+
+/// What a call can't do without: the exchange and the documents.
+Contender bareCallAndDocuments(const QString& address)
+{
+    return {"bare exchange and QDom work",
+            [=](int calls) { return measured(calls, [&] { bareCallWithDocuments(address); }); }};
 }
 
 Contender libcurlCall(const QString& address)
@@ -63,24 +70,41 @@ void expectSameRequest(const FixedServer& server, const Contender& one, const Co
     std::exit(1);
 }
 
+/// A row for the time on the clock and one for that of the processor.
+void printRatios(const Comparison& comparison, std::size_t one, std::size_t other,
+                 const std::string& what)
+{
+    printRow(what + ", wall", comparison.wallRatio(one, other));
+    printRow(what + ", CPU", comparison.cpuRatio(one, other));
+}
+
+enum { Facade, Bare, BareAndDocuments, Plainest, Libcurl, Script, ScriptSession };
+
+std::vector<Contender> contendersAt(const QString& address)
+{
+    return {facadeCall(facadeAt(address)), bareCall(address),    bareCallAndDocuments(address),
+            plainestCall(address),         libcurlCall(address), scriptCall(address, "post"),
+            scriptCall(address, "session")};
+}
+
 void compareSmall(const FixedServer& server, const Effort& effort)
 {
-    const QString address = server.address(0);
-    const std::vector<Contender> contenders = {
-        facadeCall(facadeAt(address)), bareCall(address, false),       libcurlCall(address),
-        scriptCall(address, "post"),   scriptCall(address, "session"), bareCall(address, true)};
-    expectSameRequest(server, contenders[0], contenders[1]);
+    const std::vector<Contender> contenders = contendersAt(server.address(0));
+    for (const std::size_t other : {Bare, BareAndDocuments, Plainest})
+        expectSameRequest(server, contenders[Facade], contenders[other]);
     const Comparison comparison(contenders, effort);
     const std::string what = "1. getFirmwareVersion to ";
-    printRow(what + "the bare exchange, wall", comparison.wallRatio(0, 1), atMost(1.05));
-    printRow(what + "the bare exchange, CPU", comparison.cpuRatio(0, 1), atMost(1.10));
-    printRow(what + "the bare exchange and QDom work, wall", comparison.wallRatio(0, 5));
-    printRow(what + "the bare exchange and QDom work, CPU", comparison.cpuRatio(0, 5));
-    printRow(what + "libcurl and pugixml, wall", comparison.wallRatio(0, 2));
-    printRow(what + "libcurl and pugixml, CPU", comparison.cpuRatio(0, 2));
-    printRow(what + "Python requests, wall", comparison.wallRatio(0, 3), atMost(1));
-    printRow(what + "Python requests, CPU", comparison.cpuRatio(0, 3));
-    printRow(what + "Python requests that keep the connection, wall", comparison.wallRatio(0, 4));
+    printRow(what + "the bare exchange, wall", comparison.wallRatio(Facade, Bare), atMost(1.05));
+    printRow(what + "the bare exchange, CPU", comparison.cpuRatio(Facade, Bare), atMost(1.10));
+    printRatios(comparison, BareAndDocuments, Bare,
+                "1. the bare exchange and QDom work to the bare exchange");
+    printRatios(comparison, Facade, BareAndDocuments, what + "the bare exchange and QDom work");
+    printRatios(comparison, Facade, Plainest, what + "the plainest exchange");
+    printRatios(comparison, Facade, Libcurl, what + "libcurl and pugixml");
+    printRow(what + "Python requests, wall", comparison.wallRatio(Facade, Script), atMost(1));
+    printRow(what + "Python requests, CPU", comparison.cpuRatio(Facade, Script));
+    printRatios(comparison, Facade, ScriptSession,
+                what + "Python requests that keep the connection");
     printCosts(contenders, comparison);
 }
 
@@ -89,12 +113,25 @@ void compareSize(const FixedServer& server, std::size_t reply, const std::string
 {
     const QString address = server.address(reply);
     const std::vector<Contender> contenders = {facadeCall(facadeAt(address)),
-                                               bareCall(address, true)};
+                                               bareCallAndDocuments(address)};
     const Comparison comparison(contenders, effort);
     const std::string what = "2. a reply of " + size + " to the bare exchange and QDom work, ";
     printRow(what + "wall", comparison.wallRatio(0, 1), atMost(1.25));
     printRow(what + "CPU", comparison.cpuRatio(0, 1));
     printCosts(contenders, comparison);
+}
+
+/// Makes calls of one kind and nothing else, for a profiler.
+int repeat(const FixedServer& server, const std::string& name, int calls)
+{
+    for (const Contender& contender : contendersAt(server.address(0))) {
+        if (contender.name == name) {
+            contender.run(calls);
+            return 0;
+        }
+    }
+    std::fprintf(stderr, "bench-calls: there is no '%s'\n", name.c_str());
+    return 2;
 }
 
 } // namespace
@@ -107,8 +144,10 @@ int main(int argc, char** argv)
     const FixedServer server(
         {fixedReply(smallReply), fixedReply(middleReply), fixedReply(largeReply)});
     QCoreApplication application(argc, argv);
+    if (argc == 4 && std::strcmp(argv[1], "--repeat") == 0)
+        return repeat(server, argv[2], std::atoi(argv[3]));
     const bool whole = !isSmokeRun(argc, argv);
-    compareSmall(server, whole ? Effort{60, 100} : Effort{2, 2});
+    compareSmall(server, whole ? Effort{80, 100} : Effort{2, 2});
     compareSize(server, 1, "10 kB", whole ? Effort{60, 50} : Effort{2, 2});
     compareSize(server, 2, "1 MB", whole ? Effort{30, 1} : Effort{2, 1});
     return 0;

@@ -38,30 +38,28 @@ void compareAt(const FixedServer& server, int width, const Effort& effort)
     std::vector<General> facades;
     for (int i = 0; i < width; ++i)
         facades.push_back(facadeAt(server.address(static_cast<std::size_t>(i))));
+    const auto contender = [&](const std::string& name, const auto& call) {
+        return Contender{name + ", " + std::to_string(width) + " at once",
+                         [=](int calls) { return onThreads(width, calls, call); }};
+    };
+    enum { Bare, BareAndDocuments, Facade };
     const std::vector<Contender> contenders = {
-        {"bare exchanges, " + std::to_string(width) + " at once",
-         [&](int calls) {
-             return onThreads(width, calls,
-                              [&](std::size_t number) { bareExchange(server.address(number)); });
-         }},
-        {"bare exchanges and QDom work, " + std::to_string(width) + " at once",
-         [&](int calls) {
-             return onThreads(width, calls, [&](std::size_t number) {
-                 bareCallWithDocuments(server.address(number));
-             });
-         }},
-        {"facade calls, " + std::to_string(width) + " at once", [&](int calls) {
-             return onThreads(width, calls,
-                              [&](std::size_t number) { askFirmware(facades[number]); });
-         }}};
+        contender("bare exchanges", [&](std::size_t at) { bareExchange(server.address(at)); }),
+        contender("bare exchanges and QDom work",
+                  [&](std::size_t at) { bareCallWithDocuments(server.address(at)); }),
+        contender("facade calls", [&](std::size_t at) { askFirmware(facades[at]); })};
     const Comparison comparison(contenders, effort);
     const std::string what = "6. " + std::to_string(width) + " gateways at once, ";
     // The others' time through the call's is the calls per second through theirs.
-    printRow(what + "calls per second to bare exchanges", comparison.wallRatio(0, 2),
+    printRow(what + "calls per second to bare exchanges", comparison.wallRatio(Bare, Facade),
              atLeast(0.95));
-    printRow(what + "calls per second to bare exchanges and QDom work", comparison.wallRatio(1, 2));
-    printRow(what + "CPU per call to a bare exchange's", comparison.cpuRatio(2, 0));
-    printRow(what + "CPU per call to a bare exchange's and QDom work's", comparison.cpuRatio(2, 1));
+    printRow(what + "bare exchanges and QDom work per second to bare exchanges",
+             comparison.wallRatio(Bare, BareAndDocuments));
+    printRow(what + "calls per second to bare exchanges and QDom work",
+             comparison.wallRatio(BareAndDocuments, Facade));
+    printRow(what + "CPU per call to a bare exchange's", comparison.cpuRatio(Facade, Bare));
+    printRow(what + "CPU per call to a bare exchange's and QDom work's",
+             comparison.cpuRatio(Facade, BareAndDocuments));
     printCosts(contenders, comparison);
 }
 

@@ -10,9 +10,15 @@ namespace quorvel::bench
 extern const QByteArray firmwareRequest;
 
 /// The exchange that a call can't do without: one network manager, one POST of `request` with the
-/// session "SID=1" by the library's own settings (no proxy, no redirect, no compression, a limit of
-/// 20 seconds), a local event loop. Gives the body, or ends the program if there is none.
+/// session "SID=1", a local event loop, all by the settings that the library gives Qt: no proxy, no
+/// redirect, no compression, a precise limit of 20 seconds, a body that goes out once, and a reply
+/// that is read as it comes through a buffer of 256 kB. Gives the body of the reply, or ends the
+/// program if there is none.
 QByteArray bareExchange(const QString& address, const QByteArray& request = firmwareRequest);
+
+/// The same request by no settings but those that the gateway sees: a buffer is sent, and the reply
+/// read when it is whole. Ends the program if there is none.
+void plainestExchange(const QString& address);
 
 /// The exchange and the QDom work that goes with it: the request written, the reply read.
 void bareCallWithDocuments(const QString& address);

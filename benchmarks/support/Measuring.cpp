@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <chrono>
 #include <ctime>
+#include <numeric>
+#include <random>
 
 namespace quorvel::bench
 {
@@ -54,12 +56,14 @@ Comparison::Comparison(const std::vector<Contender>& contenders, const Effort& e
 {
     for (const Contender& contender : contenders)
         contender.run(1); // what is done once only
+    std::vector<std::size_t> order(contenders.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::mt19937 shuffler; // the same orders in each run
     for (int round = 0; round < effort.rounds; ++round) {
+        std::shuffle(order.begin(), order.end(), shuffler);
         std::vector<Cost> costs(contenders.size());
-        for (std::size_t i = 0; i < contenders.size(); ++i) {
-            const std::size_t turn = (i + static_cast<std::size_t>(round)) % contenders.size();
+        for (const std::size_t turn : order)
             costs[turn] = contenders[turn].run(effort.calls);
-        }
         rounds.push_back(costs);
     }
 }

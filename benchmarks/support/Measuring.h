@@ -38,7 +38,8 @@ struct Effort {
 };
 
 /// What contenders took, round by round. In each round all of them run one after the other, each
-/// time in another order, so that what else the machine does meanwhile meets all alike.
+/// time in an order of chance, so that what else the machine does meanwhile, and what a contender
+/// leaves behind for the next, meets all alike.
 class Comparison
 {
 public:
