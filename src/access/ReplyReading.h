@@ -10,6 +10,7 @@
 #include <QStringBuilder>
 #include <cstddef>
 #include <initializer_list>
+#include <vector>
 
 namespace quorvel
 {
@@ -55,6 +56,60 @@ Enumeration meaningOf(const QString& text, const Word<Enumeration> (&words)[coun
     }
     return otherwise;
 }
+
+/// The entries of a reply whose names are `stem`, a number and `tail`, found in one pass over the
+/// names that start alike: looking each up would take the longer the more there are. A number
+/// counts only as it is written without leading zeros.
+class NumberedEntries
+{
+public:
+    /// Valid as long as the reply, which must not be changed.
+    NumberedEntries(const ParamMap& reply, const QString& stem, const QString& tail = QString());
+
+    /// Null if the reply lacks the entry.
+    const QString* find(int number) const;
+    QString value(int number) const;
+    /// The numbers of all entries, upwards.
+    std::vector<int> numbers() const;
+
+private:
+    struct Entry {
+        int number;
+        const QString* value;
+    };
+
+    std::vector<Entry> entries;
+};
+
+/// Records in a numbered list: each of the table's entries ends with the number of its record.
+template <typename Record>
+class NumberedRecords
+{
+public:
+    template <typename Table>
+    NumberedRecords(const Table& fields, const ParamMap& reply, const QString& prefix)
+    {
+        for (const TextField<Record>& field : fields)
+            columns.push_back({field.member, {reply, prefix % QLatin1String(field.entry)}});
+    }
+
+    /// Filled like one of readTexts.
+    Record at(int number) const
+    {
+        Record record;
+        for (const Column& column : columns)
+            record.*column.member = column.entries.value(number);
+        return record;
+    }
+
+private:
+    struct Column {
+        QString Record::*member;
+        NumberedEntries entries;
+    };
+
+    std::vector<Column> columns;
+};
 
 /// The values of the entries `stem` and a number, counted up from `first` to the first number that
 /// the reply lacks.

@@ -16,8 +16,9 @@ const char managerListLabel[] = "AspGeneralSettingsFacade::getManagerList -> Man
 const char managerListFailure[] =
     "AspGeneralSettingsFacade::getManagerList -> Failed to fetch manager list!";
 
-/// Names of the numbered entries of a client list.
-struct ClientPatterns {
+/// What the numbered entries of a client list are called, around the number.
+struct ClientNames {
+    QString stem;
     QString mac;
     QString hostname;
     QString ip;
@@ -29,27 +30,27 @@ bool isPlaceholder(const QString& mac)
            mac == QLatin1String("00-00-00-00-00-00");
 }
 
-QList<AspDhcpsClient> clientsIn(const ParamMap& reply, const ClientPatterns& patterns)
+QList<AspDhcpsClient> clientsIn(const ParamMap& reply, const ClientNames& names)
 {
+    const NumberedEntries macs(reply, names.stem, names.mac);
+    const NumberedEntries ips(reply, names.stem, names.ip);
+    const NumberedEntries hostnames(reply, names.stem, names.hostname);
     QList<AspDhcpsClient> clients;
-    for (int i = 0;; ++i) {
-        const auto mac = reply.constFind(patterns.mac.arg(i));
-        if (mac == reply.constEnd())
-            return clients;
+    for (int number = 0; const QString* mac = macs.find(number); ++number) {
         if (!isPlaceholder(*mac))
-            clients.append(
-                {*mac, reply.value(patterns.ip.arg(i)), reply.value(patterns.hostname.arg(i))});
+            clients.append({*mac, ips.value(number), hostnames.value(number)});
     }
+    return clients;
 }
 
 template <typename Request>
 QList<AspDhcpsClient> fetchClients(AspFacade& facade, AspWebAppErrorCodes& error, Request request,
-                                   const ClientPatterns& patterns)
+                                   const ClientNames& names)
 {
     QList<AspDhcpsClient> clients;
     fetch(
-        facade, error, request,
-        [&](const ParamMap& reply) { clients = clientsIn(reply, patterns); }, nullptr);
+        facade, error, request, [&](const ParamMap& reply) { clients = clientsIn(reply, names); },
+        nullptr);
     return clients;
 }
 
@@ -60,8 +61,8 @@ QList<AspDhcpsClient> AspGeneralSettingsFacade::getStaticClientList(AspWebAppErr
     return fetchClients(
         *this, error,
         general(&GeneralSettingsImplementor::getStaticClientList, QString(wire::dhcps0)),
-        {QStringLiteral("dhcps-0.client%1.mac"), QStringLiteral("dhcps-0.client%1.hostname"),
-         QStringLiteral("dhcps-0.client%1.ip")});
+        {QStringLiteral("dhcps-0.client"), QStringLiteral(".mac"), QStringLiteral(".hostname"),
+         QStringLiteral(".ip")});
 }
 
 QList<AspDhcpsClient> AspGeneralSettingsFacade::getDynamicClientList(AspWebAppErrorCodes& error)
@@ -69,8 +70,8 @@ QList<AspDhcpsClient> AspGeneralSettingsFacade::getDynamicClientList(AspWebAppEr
     return fetchClients(
         *this, error,
         general(&GeneralSettingsImplementor::getDynamicClientList, QString(wire::dhcps0)),
-        {QStringLiteral("dhcps-0.lease%1.mac"), QStringLiteral("dhcps-0.lease%1.name"),
-         QStringLiteral("dhcps-0.lease%1.ip")});
+        {QStringLiteral("dhcps-0.lease"), QStringLiteral(".mac"), QStringLiteral(".name"),
+         QStringLiteral(".ip")});
 }
 
 QList<QString> AspGeneralSettingsFacade::getManagerList(AspWebAppErrorCodes& error)

@@ -6,7 +6,6 @@
 #include "usbhost/UsbHostKeys.h"
 
 #include <algorithm>
-#include <set>
 
 namespace quorvel
 {
@@ -33,36 +32,21 @@ QString usbHostKey(const char* entry)
     return replyKey(wire::usbhostMngr0, QLatin1String(entry));
 }
 
-/// The numbers below `count` under which a reply has a device. Found by the reply's entries, not by
-/// counting up: the gateway may claim billions.
-std::set<int> deviceNumbers(const ParamMap& reply, int count)
-{
-    std::set<int> numbers;
-    const QString prefix = usbHostKey("Type");
-    for (auto entry = reply.lowerBound(prefix);
-         entry != reply.cend() && entry.key().startsWith(prefix); ++entry) {
-        const QString digits = entry.key().mid(prefix.size());
-        const int number = digits.toInt();
-        if (number >= 0 && number < count && QString::number(number) == digits)
-            numbers.insert(number);
-    }
-    return numbers;
-}
-
 AspUsbHostDevices devicesIn(const ParamMap& reply)
 {
-    AspUsbHostDevices devices;
     const QString prefix = usbHostKey("");
-    for (const int index : deviceNumbers(reply, reply.value(usbHostKey("DeviceCount")).toInt())) {
-        const QString number = QString::number(index);
-        const QString type = reply.value(usbHostKey("Type") + number);
-        if (type == QLatin1String("0")) {
-            devices.disks.append(AspUsbHostDisk());
-            readTexts(devices.disks.last(), diskFields, reply, prefix, number);
-        } else if (type == QLatin1String("1")) {
-            devices.printers.append(AspUsbHostPrinter());
-            readTexts(devices.printers.last(), printerFields, reply, prefix, number);
-        }
+    const int count = reply.value(usbHostKey("DeviceCount")).toInt();
+    const NumberedEntries types(reply, usbHostKey("Type"));
+    const NumberedRecords<AspUsbHostDisk> disks(diskFields, reply, prefix);
+    const NumberedRecords<AspUsbHostPrinter> printers(printerFields, reply, prefix);
+    AspUsbHostDevices devices;
+    // By the reply's entries, not by counting up: the gateway may claim billions.
+    for (const int number : types.numbers()) {
+        const QString type = number < count ? types.value(number) : QString();
+        if (type == QLatin1String("0"))
+            devices.disks.append(disks.at(number));
+        else if (type == QLatin1String("1"))
+            devices.printers.append(printers.at(number));
     }
     return devices;
 }

@@ -61,19 +61,19 @@ ParamMap valuesToWrite(AspWirelessStatus status, const AspWirelessSettings& sett
 
 QStringList clientsIn(const ParamMap& reply)
 {
-    const QString pattern = QStringLiteral("wireless_ap-0.station%1.sta_mac");
-    QString key = pattern.arg(1);
+    const QString stem = QStringLiteral("wireless_ap-0.station");
+    const NumberedEntries macs(reply, stem, QStringLiteral(".sta_mac"));
     // Only the first station is looked for in the other spelling.
-    if (!reply.contains(key))
-        key = QStringLiteral("wireless_ap-0.station1.mac");
+    const auto otherFirst = reply.constFind(stem + QLatin1String("1.mac"));
     QStringList clients;
-    for (int next = 2;; ++next) {
-        const auto client = reply.constFind(key);
-        if (client == reply.constEnd())
-            return clients;
+    const QString* client = macs.find(1);
+    if (!client && otherFirst != reply.constEnd())
+        client = &otherFirst.value();
+    for (int next = 2; client; ++next) {
         clients.append(*client);
-        key = pattern.arg(next);
+        client = macs.find(next);
     }
+    return clients;
 }
 
 } // namespace
