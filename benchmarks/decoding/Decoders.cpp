@@ -2,6 +2,9 @@
 
 #include <quorvel/QuorvelApi1.h>
 
+#include <QStringList>
+#include <functional>
+
 namespace quorvel::bench
 {
 
@@ -36,8 +39,28 @@ Replies names(int entries)
 Replies record(int entries)
 {
     ParamMap reply = names(entries).front();
-    for (const char* const entry : {"wan-0.settings.type", "wan-0.vpi", "wireless_ap-0.ssid"})
+    for (const char* const entry :
+         {"wan-0.settings.type", "wan-0.settings.username", "wan-0.settings.ip",
+          "wan-0.state.status", "wan-0.status.mode", "wan-0.server", "wan-0.localip", "wan-0.name",
+          "wan-0.vpi", "wireless_ap-0.ssid", "wireless-0.ap0_ssid", "warranty-0.token"})
         reply.insert(QString::fromLatin1(entry), QStringLiteral("8"));
+    return {reply};
+}
+
+/// The WANs of a gateway, and what lies below each.
+Replies wans(int entries)
+{
+    return {items(entries / 2, {{"devmgr-0.wan%1", "wan-%1"}}),
+            items(entries / 2, {{"wan-%1.l2type", "dsl"}})};
+}
+
+/// The instances that share the disks, and their texts, among many other entries.
+Replies sharing(int entries)
+{
+    ParamMap reply = names(entries).front();
+    reply.insert(QStringLiteral("devmgr-0.conn.inst0"), QStringLiteral("conn-0"));
+    reply.insert(QStringLiteral("devmgr-0.samba_mngr.inst0"), QStringLiteral("samba_mngr-0"));
+    reply.insert(QStringLiteral("conn-0.hostname"), QStringLiteral("attic"));
     return {reply};
 }
 
@@ -120,6 +143,18 @@ Replies meshLinks(int entries)
     return replies;
 }
 
+/// A radio whose one transmit mode knows so many security modes.
+Replies securityModes(int entries)
+{
+    QStringList modes;
+    for (int i = 0; i < entries; ++i)
+        modes.append(QStringLiteral("\"%1\":{\"show\":1}").arg(i));
+    return {{{QStringLiteral("wireless-0.wireless_capabilities"),
+              QStringLiteral("{\"band\":{\"2400\":{\"modes\":{\"g\":{\"securityModes\":{%1}}}}}}x")
+                  .arg(modes.join(QLatin1Char(',')))},
+             {QStringLiteral("wireless-0.txmode"), QStringLiteral("g")}}};
+}
+
 Replies capabilities(int entries)
 {
     QString channels;
@@ -144,6 +179,25 @@ using Wan = AspWanSettingsFacade;
 using Internet = AspAdslSettingsFacade;
 
 const QString wan = QStringLiteral("wan-0");
+
+/// Asks for a record of an instance; one if the field was decoded.
+template <auto operation, auto field>
+int connectionField(const Gateway& gateway)
+{
+    return ask<Internet>(gateway, [](auto& f, auto& error) {
+        return (std::invoke(operation, f, wan, error).*field).size();
+    });
+}
+
+/// The radio of a newer gateway, which knows its capabilities.
+template <typename Operation>
+int askNewerRadio(const Gateway& gateway, Operation operation)
+{
+    return ask<AspWirelessSettingsFacadeNG>(gateway, [&](auto& f, auto& error) {
+        f.setManager(QStringLiteral("wireless-0"));
+        return operation(f, error);
+    });
+}
 
 const std::vector<Decoder> table = {
     {"getManagerList", names,
@@ -221,24 +275,79 @@ const std::vector<Decoder> table = {
      2},
     {"getWirelessCapabilities", capabilities,
      [](const Gateway& gateway) {
-         return ask<AspWirelessSettingsFacadeNG>(gateway, [](auto& f, auto& error) {
-             f.setManager(QStringLiteral("wireless-0"));
+         return askNewerRadio(gateway, [](auto& f, auto& error) {
              f.getWirelessCapabilities(error);
              return error == AspWebAppNoError ? 1 : 0;
          });
      },
      0},
-    {"getPppoxSettings", record,
+    {"getSupportSecurityModes", securityModes,
      [](const Gateway& gateway) {
-         return ask<Internet>(gateway, [](auto& f, auto& error) {
-             return f.getPppoxSettings(wan, error).type.size();
+         return askNewerRadio(gateway, [](auto& f, auto& error) {
+             f.getWirelessCapabilities(error);
+             return f.getSupportSecurityModes(0).size();
+         });
+     },
+     1},
+    {"getManagerInstanceList", names,
+     [](const Gateway& gateway) {
+         return ask<General>(gateway, [](auto& f, auto& error) {
+             return f.getManagerInstanceList(QStringLiteral("manager"), error).size();
+         });
+     },
+     1},
+    {"getWirelessCoreList", names,
+     [](const Gateway& gateway) {
+         return ask<General>(
+             gateway, [](auto& f, auto& error) { return f.getWirelessCoreList(error).size(); });
+     },
+     1},
+    {"getWanList of each kind", wans,
+     [](const Gateway& gateway) {
+         return ask<Wan>(gateway, [](auto& f, auto& error) {
+             QList<QString> dsl;
+             QList<QString> ethernet;
+             f.getWanList(dsl, ethernet, error);
+             return dsl.size();
+         });
+     },
+     2, Requests::LeftOut},
+    {"getPppoxSettings", record,
+     &connectionField<&Internet::getPppoxSettings, &AspPppoxSettings::type>, 0},
+    {"getPppoxState", record, &connectionField<&Internet::getPppoxState, &AspPppoxState::status>,
+     0},
+    {"getRussianPppoxSettings", record,
+     &connectionField<&Internet::getRussianPppoxSettings, &AspRussianPppoxSettings::username>, 0},
+    {"getVpnSettings", record, &connectionField<&Internet::getVpnSettings, &AspVpnSettings::server>,
+     0},
+    {"getDhcpSettings", record,
+     &connectionField<&Internet::getDhcpSettings, &AspDhcpSettings::localIp>, 0},
+    {"getStaticSettings", record,
+     &connectionField<&Internet::getStaticSettings, &AspStaticSettings::ip>, 0},
+    {"getWanVlanSettings", record,
+     &connectionField<&Internet::getWanVlanSettings, &AspWanVlanSettings::name>, 0},
+    {"getPvcSettings", record, &connectionField<&Internet::getPvcSettings, &AspPvcSettings::vpi>,
+     0},
+    {"getDslState", record, &connectionField<&Internet::getDslState, &AspDslStatus::mode>, 0},
+    {"getWarrantyInformation", record,
+     [](const Gateway& gateway) {
+         return ask<General>(gateway, [](auto& f, auto& error) {
+             return f.getWarrantyInformation(error).token.size();
          });
      },
      0},
-    {"getPvcSettings", record,
+    {"getUsbHostAdvancedSettings", sharing,
      [](const Gateway& gateway) {
-         return ask<Internet>(
-             gateway, [](auto& f, auto& error) { return f.getPvcSettings(wan, error).vpi.size(); });
+         return ask<AspUsbHostSettingsFacade>(gateway, [](auto& f, auto& error) {
+             return f.getUsbHostAdvancedSettings(error).hostName.size();
+         });
+     },
+     0},
+    {"getWirelessSettings of a newer radio", record,
+     [](const Gateway& gateway) {
+         return askNewerRadio(gateway, [](auto& f, auto& error) {
+             return f.getWirelessSettings(error).ssid.size();
+         });
      },
      0},
     {"getWirelessSettings", record,
@@ -248,6 +357,7 @@ const std::vector<Decoder> table = {
          });
      },
      0}};
+
 } // namespace
 
 const std::vector<Decoder>& decoders()

@@ -3,6 +3,7 @@
 #include <quorvel/ParamMap.h>
 
 #include "assembly/Cpe.h"
+#include "support/ReadyGateway.h"
 
 #include <boost/shared_ptr.hpp>
 #include <string>
@@ -21,6 +22,8 @@ struct Decoder {
     int (*decode)(const boost::shared_ptr<Cpe>& gateway);
     /// How many entries an item takes; 0 for a record, which takes a few of all entries.
     int entriesPerItem;
+    /// Left out where they grow with the reply: writing them is another matter.
+    Requests requests = Requests::Written;
 };
 
 const std::vector<Decoder>& decoders();

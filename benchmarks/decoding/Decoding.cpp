@@ -2,7 +2,6 @@
 
 #include "decoding/Decoders.h"
 #include "support/PairReporter.h"
-#include "support/ReadyGateway.h"
 #include "support/Run.h"
 
 #include <algorithm>
@@ -24,7 +23,7 @@ const std::vector<int>& sizes()
 void decode(benchmark::State& state, const Decoder& decoder)
 {
     const int entries = static_cast<int>(state.range(0));
-    const auto gateway = readyGateway(decoder.replies(entries));
+    const auto gateway = readyGateway(decoder.replies(entries), decoder.requests);
     for (auto _ : state) {
         const int found = decoder.decode(gateway);
         const bool isRecord = decoder.entriesPerItem == 0;

@@ -1,6 +1,7 @@
 #include "support/PairReporter.h"
 
 #include <algorithm>
+#include <cstdio>
 
 namespace quorvel::bench
 {
@@ -32,7 +33,11 @@ void printPair(const SampleReporter& reporter, const std::string& name,
 void SampleReporter::ReportRuns(const std::vector<Run>& runs)
 {
     for (const Run& run : runs) {
-        failed = failed || run.error_occurred;
+        if (run.error_occurred) {
+            failed = true;
+            std::fprintf(stderr, "%s: %s\n", nameOf(run.run_name).c_str(),
+                         run.error_message.c_str());
+        }
         if (run.run_type != Run::RT_Iteration || run.error_occurred)
             continue;
         const std::string name = nameOf(run.run_name);

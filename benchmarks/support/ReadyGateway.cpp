@@ -29,6 +29,19 @@ public:
     void abortPendingRequests() override {}
 };
 
+/// Takes commands and writes nothing: a request's document is measured elsewhere.
+class ReadyFormatter : public RequestFormatter
+{
+public:
+    QString formatRequest() override
+    {
+        clearCommands();
+        return QString();
+    }
+    QString formatCommands() override { return formatRequest(); }
+    QString wrapCommands(const QString&) override { return QString(); }
+};
+
 class ReadyParser : public ResponseParser
 {
 public:
@@ -75,7 +88,7 @@ boost::shared_ptr<Cpe> builtGateway(const QString& address)
     return builder.getCpe();
 }
 
-boost::shared_ptr<Cpe> readyGateway(const std::vector<ParamMap>& replies)
+boost::shared_ptr<Cpe> readyGateway(const std::vector<ParamMap>& replies, Requests requests)
 {
     const boost::shared_ptr<Cpe> cpe = builtGateway(QStringLiteral("ready"));
     const auto executor = boost::make_shared<ReadyExecutor>();
@@ -86,6 +99,8 @@ boost::shared_ptr<Cpe> readyGateway(const std::vector<ParamMap>& replies)
         cpe->getWirelessImplementorNG()};
     for (const auto& family : families) {
         family->setRequestExecutor(executor);
+        if (requests == Requests::LeftOut)
+            family->setRequestFormatter(boost::make_shared<ReadyFormatter>());
         family->setResponseParser(parser);
     }
     return cpe;
