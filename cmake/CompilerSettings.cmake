@@ -27,8 +27,8 @@ function(quorvel_own_target target)
     endif()
 endfunction()
 
-# For what uses the command-line library: it is all in headers, and optimising all of it for each file
-# takes longer than the programs ever run.
+# For the programs of the command line and their libraries: optimising them takes longer than they
+# ever run.
 function(quorvel_command_line_target target)
     quorvel_own_target(${target})
     if(QUORVEL_SANITIZE)
@@ -36,7 +36,6 @@ function(quorvel_command_line_target target)
     else()
         target_compile_options(${target} PRIVATE -O1)
     endif()
-    target_link_libraries(${target} PUBLIC CLI11::CLI11)
 endfunction()
 
 # Tests are compiled once and run for seconds: time spent on optimising them is lost, and more than

@@ -1,10 +1,10 @@
 #include "Options.h"
 
+#include "commandline/CommandLine.h"
 #include "manual/Manual.h"
 
-#include <CLI/CLI.hpp>
-
 #include <climits>
+#include <iostream>
 
 namespace quorvel::simulator
 {
@@ -13,59 +13,66 @@ namespace
 {
 
 constexpr int usageError = 2;
+constexpr int largestPort = 65535;
 
-void declare(CLI::App& app, Options& options)
+void declare(commandline::Command program, Options& options)
 {
-    const CLI::Range port(0, 65535);
-    const CLI::Range count(0, INT_MAX);
-    auto* scenario = app.add_option("--scenario", options.scenario,
-                                    "The gateway to be: a name of --list-scenarios, or a file")
-                         ->capture_default_str();
-    app.add_option("--from-dump", options.dump,
+    auto scenario = program
+                        .addOption("--scenario", options.scenario,
+                                   "The gateway to be: a name of --list-scenarios, or a file")
+                        .showDefault();
+    program
+        .addOption("--from-dump", options.dump,
                    "Be the gateway that 'quorvelctl dump' has written to this file")
-        ->type_name("FILE")
-        ->excludes(scenario);
-    app.add_option("--address", options.address, "The address to listen on")->capture_default_str();
-    app.add_option("--port", options.port, "The port to listen on; 0 takes a free one")
-        ->capture_default_str()
-        ->check(port);
-    app.add_option("--control-port,--control", options.controlPort,
+        .valueName("FILE")
+        .excludes(scenario);
+    program.addOption("--address", options.address, "The address to listen on").showDefault();
+    program.addOption("--port", options.port, "The port to listen on; 0 takes a free one")
+        .showDefault()
+        .between(0, largestPort);
+    program
+        .addOption("--control-port,--control", options.controlPort,
                    "Also listen for control commands on this port of 127.0.0.1; 0 takes a free "
                    "one")
-        ->check(port);
-    app.add_option("--fault", options.faults,
+        .between(0, largestPort);
+    program
+        .addOption("--fault", options.faults,
                    "Inject a fault: NAME[:ARGUMENT][,TIMES][,after=N][,on=login|webapp|probe]"
                    "[,key=KEY][,effect=no]; may be given several times")
-        ->allow_extra_args(false);
-    app.add_option("--reboot-time", options.rebootTime,
+        .oneAtATime();
+    program
+        .addOption("--reboot-time", options.rebootTime,
                    "How many milliseconds a restart takes; the scenario's unless given")
-        ->check(count);
-    app.add_option("--session-lifetime", options.sessionRequests,
+        .between(0, INT_MAX);
+    program
+        .addOption("--session-lifetime", options.sessionRequests,
                    "How many requests a session answers before it expires; 0 means any number")
-        ->check(count);
-    app.add_option("--sessions", options.sessionNumber,
+        .between(0, INT_MAX);
+    program
+        .addOption("--sessions", options.sessionNumber,
                    "How many sessions live at once; 0 means any number")
-        ->check(count);
-    app.add_option("--transcript", options.transcript,
-                   "Write what was exchanged to this file at the end, secrets masked");
-    app.add_flag("--list-scenarios", options.listScenarios, "List the scenarios and exit");
-    app.set_version_flag("--version", "quorvel-gateway-sim " QUORVEL_VERSION);
-    manual::addManual(app);
+        .between(0, INT_MAX);
+    program.addOption("--transcript", options.transcript,
+                      "Write what was exchanged to this file at the end, secrets masked");
+    program.addFlag("--list-scenarios", options.listScenarios, "List the scenarios and exit");
 }
 
 } // namespace
 
 int readOptions(int argc, char** argv, Options& options)
 {
-    CLI::App app("A home gateway that isn't there: answers on a TCP port as one does.",
-                 "quorvel-gateway-sim");
-    declare(app, options);
+    commandline::CommandLine line(
+        "quorvel-gateway-sim",
+        "A home gateway that isn't there: answers on a TCP port as one does.");
+    declare(line.program(), options);
+    line.setVersion("quorvel-gateway-sim " QUORVEL_VERSION);
+    manual::addManual(line);
     try {
-        app.parse(argc, argv);
-    } catch (const CLI::ParseError& outcome) {
-        return app.exit(outcome) == 0 ? 0 : usageError;
+        return line.run(argc, argv) ? -1 : 0;
+    } catch (const commandline::Misuse& misuse) {
+        std::cerr << misuse.message << "\nRun with --help for more information.\n";
+        return usageError;
     }
-    return -1;
 }
 
 } // namespace quorvel::simulator

@@ -1,5 +1,6 @@
 #include "manual/Description.h"
 
+#include <CLI/App.hpp>
 #include <CLI/Config.hpp>
 #include <CLI/Formatter.hpp>
 #include <algorithm>

@@ -4,34 +4,31 @@
 #include "manual/Description.h"
 #include "manual/ManPage.h"
 
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
-
 namespace quorvel::manual
 {
 
 namespace
 {
 
-std::string written(const CLI::App& app, const std::string& form)
+std::string written(const commandline::CommandLine& line, const std::string& form)
 {
-    const Command program = describe(app);
+    const Command program = describe(line.parser());
     if (form == "man")
-        return manPage(program, app.version());
+        return manPage(program, line.version());
     return form == "bash" ? bashCompletion(program) : zshCompletion(program);
 }
 
 } // namespace
 
-void addManual(CLI::App& app)
+void addManual(commandline::CommandLine& line)
 {
-    const auto print = [&app](const std::string& form) {
-        // Like a version, it is printed instead of running anything.
-        throw CLI::CallForVersion(written(app, form), 0);
+    const auto print = [&line](const std::string& form) {
+        throw commandline::Answer{written(line, form)};
     };
-    app.add_option_function<std::string>("--manual", print, "Print the manual page or a completion")
-        ->check(CLI::IsMember({"man", "bash", "zsh"}))
-        ->group(std::string());
+    line.program()
+        .addOption("--manual", print, "Print the manual page or a completion")
+        .oneOf({"man", "bash", "zsh"})
+        .hidden();
 }
 
 } // namespace quorvel::manual

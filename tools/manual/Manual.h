@@ -1,6 +1,6 @@
 #pragma once
 
-#include <CLI/App.hpp>
+#include "commandline/CommandLine.h"
 
 namespace quorvel::manual
 {
@@ -8,6 +8,6 @@ namespace quorvel::manual
 /// Lets a program tell of itself what --help tells, in other forms: `--manual man` prints its
 /// manual page, `--manual bash` and `--manual zsh` its completion. The option is for the build and
 /// not listed.
-void addManual(CLI::App& app);
+void addManual(commandline::CommandLine& line);
 
 } // namespace quorvel::manual

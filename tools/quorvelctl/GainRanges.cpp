@@ -2,8 +2,6 @@
 
 #include "Failure.h"
 
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
 #include <ostramw/ConfigDataFactory.h>
 
 #include <QString>
@@ -77,18 +75,17 @@ bool isKnown(const RangeKeys& keys)
 
 } // namespace
 
-void GainRanges::addTo(CLI::App& command)
+void GainRanges::addTo(commandline::Command command)
 {
-    const CLI::Validator isRange(complaint, std::string());
     command
-        .add_option("--line-range", lines, "Between which numbers the gateway stores lines' gains")
-        ->type_name("MIN:MAX")
-        ->check(isRange)
-        ->envname("QUORVELCTL_LINE_RANGE");
-    command.add_option("--port-range", analoguePort, "The same for the gains of the analogue port")
-        ->type_name("MIN:MAX")
-        ->check(isRange)
-        ->envname("QUORVELCTL_PORT_RANGE");
+        .addOption("--line-range", lines, "Between which numbers the gateway stores lines' gains")
+        .valueName("MIN:MAX")
+        .check(complaint)
+        .environment("QUORVELCTL_LINE_RANGE");
+    command.addOption("--port-range", analoguePort, "The same for the gains of the analogue port")
+        .valueName("MIN:MAX")
+        .check(complaint)
+        .environment("QUORVELCTL_PORT_RANGE");
 }
 
 void GainRanges::apply() const

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <CLI/App.hpp>
+#include "commandline/CommandLine.h"
+
 #include <string>
 
 namespace quorvelctl
@@ -11,7 +12,7 @@ namespace quorvelctl
 class GainRanges
 {
 public:
-    void addTo(CLI::App& command);
+    void addTo(commandline::Command command);
 
     /// Hands what was given to the library.
     void apply() const;

@@ -2,8 +2,6 @@
 
 #include "Routing.h"
 
-#include <CLI/Config.hpp>
-#include <CLI/Formatter.hpp>
 #include <QHostAddress>
 #include <QUrl>
 #include <iostream>
@@ -52,25 +50,26 @@ std::string normalizeAddress(std::string& address)
 
 } // namespace
 
-void Options::addTo(CLI::App& app)
+void Options::addTo(commandline::Command program)
 {
-    app.add_option("-a,--address", givenAddress,
+    program
+        .addOption("-a,--address", givenAddress,
                    "Address of the gateway, with or without a port; without it the default gateway "
                    "of this machine")
-        ->type_name("ADDRESS")
-        ->transform(CLI::Validator(normalizeAddress, std::string()))
-        ->envname("QUORVELCTL_ADDRESS");
-    app.add_option("-u,--user", userName, "Login name")
-        ->type_name("NAME")
-        ->envname("QUORVELCTL_USER")
-        ->capture_default_str();
-    passwordSource.addTo(app, "password", "QUORVELCTL_PASSWORD", "login password");
-    app.add_flag("--json", json, "Print JSON instead of tables");
-    app.add_flag("--show-secrets", showSecrets, "Print passwords, keys and cookies in clear");
-    app.add_option("--log-level", levelName, "Show the library's lines from this level on")
-        ->type_name("LEVEL")
-        ->check(CLI::IsMember({"debug", "info", "warn", "error", "off"}))
-        ->capture_default_str();
+        .valueName("ADDRESS")
+        .rewrite(normalizeAddress)
+        .environment("QUORVELCTL_ADDRESS");
+    program.addOption("-u,--user", userName, "Login name")
+        .valueName("NAME")
+        .environment("QUORVELCTL_USER")
+        .showDefault();
+    passwordSource.addTo(program, "password", "QUORVELCTL_PASSWORD", "login password");
+    program.addFlag("--json", json, "Print JSON instead of tables");
+    program.addFlag("--show-secrets", showSecrets, "Print passwords, keys and cookies in clear");
+    program.addOption("--log-level", levelName, "Show the library's lines from this level on")
+        .valueName("LEVEL")
+        .oneOf({"debug", "info", "warn", "error", "off"})
+        .showDefault();
 }
 
 QString Options::address() const

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Secrets.h"
+#include "commandline/CommandLine.h"
 
-#include <CLI/App.hpp>
 #include <QString>
 #include <string>
 
@@ -13,7 +13,7 @@ namespace quorvelctl
 class Options
 {
 public:
-    void addTo(CLI::App& app);
+    void addTo(commandline::Command program);
 
     bool json = false;
     bool showSecrets = false;

@@ -2,7 +2,6 @@
 
 #include "Gateway.h"
 
-#include <CLI/App.hpp>
 #include <string>
 
 namespace quorvelctl

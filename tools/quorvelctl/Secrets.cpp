@@ -73,23 +73,23 @@ QString nextLineOfStdin(const std::string& meaning)
 
 } // namespace
 
-void SecretSource::addTo(CLI::App& command, const std::string& optionName,
+void SecretSource::addTo(commandline::Command command, const std::string& optionName,
                          const std::string& environmentVariable, const std::string& whatItIs)
 {
     name = optionName;
     variable = environmentVariable;
     meaning = whatItIs;
-    auto* path = command
-                     .add_option("--" + name + "-file", file,
-                                 "Read the " + meaning + " from the first line of this file")
-                     ->type_name("FILE");
+    auto path = command
+                    .addOption("--" + name + "-file", file,
+                               "Read the " + meaning + " from the first line of this file")
+                    .valueName("FILE");
     command
-        .add_flag("--" + name + "-stdin", fromStdin,
-                  "Read the " + meaning +
-                      " from a line of standard input; without either option "
-                      "it comes from the environment variable " +
-                      variable)
-        ->excludes(path);
+        .addFlag("--" + name + "-stdin", fromStdin,
+                 "Read the " + meaning +
+                     " from a line of standard input; without either option "
+                     "it comes from the environment variable " +
+                     variable)
+        .excludes(path);
 }
 
 SecretSource SecretSource::inFile(const std::string& meaning, const std::string& path)

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <CLI/App.hpp>
+#include "commandline/CommandLine.h"
+
 #include <QString>
 #include <optional>
 #include <string>
@@ -14,7 +15,7 @@ class SecretSource
 {
 public:
     /// Adds --NAME-file and --NAME-stdin to a command.
-    void addTo(CLI::App& command, const std::string& name, const std::string& variable,
+    void addTo(commandline::Command command, const std::string& name, const std::string& variable,
                const std::string& meaning);
 
     /// @name A source that another option than those two named

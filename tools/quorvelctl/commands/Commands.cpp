@@ -3,20 +3,20 @@
 namespace quorvelctl
 {
 
-void addCommands(CLI::App& app, Session& session)
+void addCommands(commandline::Command program, Session& session)
 {
-    addIdentityCommands(app, session);
-    addPasswordCommands(app, session);
-    addWarrantyCommands(app, session);
-    addInternetCommands(app, session);
-    addWanCommands(app, session);
-    addModemCommands(app, session);
-    addPhoneCommands(app, session);
-    addUsbCommands(app, session);
-    addRestartCommands(app, session);
-    addWifiCommands(app, session);
-    addDumpCommand(app, session);
-    addWatchCommand(app, session);
+    addIdentityCommands(program, session);
+    addPasswordCommands(program, session);
+    addWarrantyCommands(program, session);
+    addInternetCommands(program, session);
+    addWanCommands(program, session);
+    addModemCommands(program, session);
+    addPhoneCommands(program, session);
+    addUsbCommands(program, session);
+    addRestartCommands(program, session);
+    addWifiCommands(program, session);
+    addDumpCommand(program, session);
+    addWatchCommand(program, session);
 }
 
 } // namespace quorvelctl

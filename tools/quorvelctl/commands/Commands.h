@@ -1,6 +1,6 @@
 #pragma once
 
-#include <CLI/App.hpp>
+#include "commandline/CommandLine.h"
 
 namespace quorvelctl
 {
@@ -8,22 +8,22 @@ namespace quorvelctl
 class Session;
 
 /// Adds every command.
-void addCommands(CLI::App& app, Session& session);
+void addCommands(commandline::Command program, Session& session);
 
 /// @name A group each, in a file of its own
 /// @{
-void addDumpCommand(CLI::App& app, Session& session);
-void addIdentityCommands(CLI::App& app, Session& session);
-void addInternetCommands(CLI::App& app, Session& session);
-void addModemCommands(CLI::App& app, Session& session);
-void addPasswordCommands(CLI::App& app, Session& session);
-void addPhoneCommands(CLI::App& app, Session& session);
-void addRestartCommands(CLI::App& app, Session& session);
-void addUsbCommands(CLI::App& app, Session& session);
-void addWanCommands(CLI::App& app, Session& session);
-void addWarrantyCommands(CLI::App& app, Session& session);
-void addWatchCommand(CLI::App& app, Session& session);
-void addWifiCommands(CLI::App& app, Session& session);
+void addDumpCommand(commandline::Command program, Session& session);
+void addIdentityCommands(commandline::Command program, Session& session);
+void addInternetCommands(commandline::Command program, Session& session);
+void addModemCommands(commandline::Command program, Session& session);
+void addPasswordCommands(commandline::Command program, Session& session);
+void addPhoneCommands(commandline::Command program, Session& session);
+void addRestartCommands(commandline::Command program, Session& session);
+void addUsbCommands(commandline::Command program, Session& session);
+void addWanCommands(commandline::Command program, Session& session);
+void addWarrantyCommands(commandline::Command program, Session& session);
+void addWatchCommand(commandline::Command program, Session& session);
+void addWifiCommands(commandline::Command program, Session& session);
 /// @}
 
 } // namespace quorvelctl

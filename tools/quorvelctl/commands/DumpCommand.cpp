@@ -230,11 +230,12 @@ void dump(Session& session)
 
 } // namespace
 
-void addDumpCommand(CLI::App& app, Session& session)
+void addDumpCommand(commandline::Command program, Session& session)
 {
-    app.add_subcommand("dump", "Print everything that can be read as one JSON document, which "
-                               "quorvel-gateway-sim --from-dump replays")
-        ->callback([&session] { dump(session); });
+    program
+        .addCommand("dump", "Print everything that can be read as one JSON document, which "
+                            "quorvel-gateway-sim --from-dump replays")
+        .callback([&session] { dump(session); });
 }
 
 } // namespace quorvelctl

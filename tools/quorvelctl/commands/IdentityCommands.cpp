@@ -157,7 +157,7 @@ void showSession(Session& session)
 
 } // namespace
 
-void addIdentityCommands(CLI::App& app, Session& session)
+void addIdentityCommands(commandline::Command program, Session& session)
 {
     const struct {
         const char* name;
@@ -172,7 +172,7 @@ void addIdentityCommands(CLI::App& app, Session& session)
         {"managers", "List the managers that run on the gateway", managers},
         {"session", "Show the session and whether the gateway takes it for valid", showSession}};
     for (const auto& command : commands)
-        app.add_subcommand(command.name, command.help)->callback([&session, run = command.run] {
+        program.addCommand(command.name, command.help).callback([&session, run = command.run] {
             run(session);
         });
 }

@@ -69,16 +69,16 @@ void show(Session& session, const QString& given, bool all)
 
 } // namespace
 
-void addInternetCommands(CLI::App& app, Session& session)
+void addInternetCommands(commandline::Command program, Session& session)
 {
-    auto* group = app.add_subcommand("internet", "Show or write an internet connection");
-    auto* command = group->add_subcommand("show", "Show the internet connection of a WAN");
+    auto group = program.addCommand("internet", "Show or write an internet connection");
+    auto command = group.addCommand("show", "Show the internet connection of a WAN");
     const auto wan = std::make_shared<std::string>();
     const auto all = std::make_shared<bool>(false);
-    command->add_option("wan", *wan, "WAN, as wan-0; without it the default WAN");
-    command->add_flag("--all", *all, "Also what the link type doesn't use");
-    command->callback([&session, wan, all] { show(session, QString::fromStdString(*wan), *all); });
-    addInternetWriting(*group, session);
+    command.addOption("wan", *wan, "WAN, as wan-0; without it the default WAN");
+    command.addFlag("--all", *all, "Also what the link type doesn't use");
+    command.callback([&session, wan, all] { show(session, QString::fromStdString(*wan), *all); });
+    addInternetWriting(group, session);
 }
 
 } // namespace quorvelctl

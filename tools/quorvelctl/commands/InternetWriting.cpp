@@ -7,7 +7,6 @@
 #include "Session.h"
 #include "Wans.h"
 
-#include <CLI/Validators.hpp>
 #include <QStringList>
 #include <algorithm>
 #include <map>
@@ -245,25 +244,25 @@ std::string refuseUnlessNumber(const std::string& text)
                : "no number of a VLAN or a circuit: " + text;
 }
 
-void addText(CLI::App& command, const ConnectionText& text, Given& given)
+void addText(commandline::Command command, const ConnectionText& text, Given& given)
 {
-    auto* added = command.add_option_function<std::string>(
+    auto added = command.addOption(
         "--" + std::string(text.name),
         [&given, name = std::string(text.name)](const std::string& value) {
             given.texts[name] = value;
         },
         heading(text).toStdString());
     if (text.form == Form::Address)
-        added->check(CLI::Validator(refuseUnlessAddress, "ADDRESS"));
+        added.check(refuseUnlessAddress, "ADDRESS");
     else if (text.form == Form::Number)
-        added->check(CLI::Validator(refuseUnlessNumber, "NUMBER"));
+        added.check(refuseUnlessNumber, "NUMBER");
     else if (text.form == Form::Annex)
-        added->check(CLI::IsMember({"a", "b"}));
+        added.oneOf({"a", "b"});
     else if (text.form == Form::Annexes)
-        added->check(CLI::IsMember({"a", "b", "ab"}));
+        added.oneOf({"a", "b", "ab"});
 }
 
-void addSecret(CLI::App& command, const ConnectionText& text, Given& given)
+void addSecret(commandline::Command command, const ConnectionText& text, Given& given)
 {
     std::string variable = "QUORVELCTL_";
     for (const char* character = text.name; *character; ++character)
@@ -272,7 +271,7 @@ void addSecret(CLI::App& command, const ConnectionText& text, Given& given)
 }
 
 /// Adds options for the texts and flags that some link type sends over the medium.
-void addOptions(CLI::App& command, Given& given)
+void addOptions(commandline::Command command, Given& given)
 {
     int known = 0;
     for (const std::string& name : linkTypesOver(given.medium)) {
@@ -290,13 +289,13 @@ void addOptions(CLI::App& command, Given& given)
     for (const StaticFlag& flag : staticFlags) {
         bool& value = given.flags[flag.name];
         if (flag.part & known)
-            command.add_flag("--" + std::string(flag.name), value, "Write static addresses too");
+            command.addFlag("--" + std::string(flag.name), value, "Write static addresses too");
     }
 }
 
 } // namespace
 
-void addInternetWriting(CLI::App& group, Session& session)
+void addInternetWriting(commandline::Command group, Session& session)
 {
     const struct {
         const char* name;
@@ -311,17 +310,17 @@ void addInternetWriting(CLI::App& group, Session& session)
          "it",
          Medium::Ethernet}};
     for (const auto& row : commands) {
-        auto* command = group.add_subcommand(row.name, row.help);
+        auto command = group.addCommand(row.name, row.help);
         const auto given = std::make_shared<Given>();
         given->medium = row.medium;
-        command->add_option("wan", given->wan, "WAN, as wan-0")->required();
-        command->add_option("--link-type", given->linkType, "Link type")
-            ->required()
-            ->check(CLI::IsMember(linkTypesOver(row.medium)));
-        addOptions(*command, *given);
-        command->add_flag("--dry-run", given->dryRun,
-                          "Print the commands that would be sent, and write nothing");
-        command->callback([&session, given] { run(session, *given); });
+        command.addOption("wan", given->wan, "WAN, as wan-0").required();
+        command.addOption("--link-type", given->linkType, "Link type")
+            .required()
+            .oneOf(linkTypesOver(row.medium));
+        addOptions(command, *given);
+        command.addFlag("--dry-run", given->dryRun,
+                        "Print the commands that would be sent, and write nothing");
+        command.callback([&session, given] { run(session, *given); });
     }
 }
 

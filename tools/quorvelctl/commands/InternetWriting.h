@@ -1,6 +1,6 @@
 #pragma once
 
-#include <CLI/App.hpp>
+#include "commandline/CommandLine.h"
 
 namespace quorvelctl
 {
@@ -8,6 +8,6 @@ namespace quorvelctl
 class Session;
 
 /// Adds set-dsl and set-eth.
-void addInternetWriting(CLI::App& group, Session& session);
+void addInternetWriting(commandline::Command group, Session& session);
 
 } // namespace quorvelctl

@@ -189,9 +189,9 @@ void set(Session& session, const Given& given)
 
 } // namespace
 
-void addModemCommands(CLI::App& app, Session& session)
+void addModemCommands(commandline::Command program, Session& session)
 {
-    auto* group = app.add_subcommand("modem", "Show or set the 3G modem");
+    auto group = program.addCommand("modem", "Show or set the 3G modem");
     const struct {
         const char* name;
         const char* help;
@@ -199,22 +199,22 @@ void addModemCommands(CLI::App& app, Session& session)
     } commands[] = {{"show", "Show the modem's settings and state", show},
                     {"set", "Change settings of the modem", set}};
     for (const auto& row : commands) {
-        auto* command = group->add_subcommand(row.name, row.help);
+        auto command = group.addCommand(row.name, row.help);
         const auto given = std::make_shared<Given>();
-        command->add_option("--wan", given->wan, "WAN of the modem; found without it");
+        command.addOption("--wan", given->wan, "WAN of the modem; found without it");
         command
-            ->add_option("--settings-instance", given->settingsInstance,
-                         "Object that keeps the force-3G setting")
-            ->capture_default_str();
+            .addOption("--settings-instance", given->settingsInstance,
+                       "Object that keeps the force-3G setting")
+            .showDefault();
         if (row.run == set) {
-            given->pin.addTo(*command, "pin", "QUORVELCTL_PIN", "PIN of the SIM card");
-            given->puk.addTo(*command, "puk", "QUORVELCTL_PUK", "PUK of the SIM card");
-            command->add_option("--apn", given->apn, "Access point name of the mobile network");
-            command->add_option("--pref-mode", given->prefMode,
-                                "Preferred mode, in the gateway's own numbering");
-            command->add_option("--force3g", given->force3g, "Hold the modem to 3G (true, false)");
+            given->pin.addTo(command, "pin", "QUORVELCTL_PIN", "PIN of the SIM card");
+            given->puk.addTo(command, "puk", "QUORVELCTL_PUK", "PUK of the SIM card");
+            command.addOption("--apn", given->apn, "Access point name of the mobile network");
+            command.addOption("--pref-mode", given->prefMode,
+                              "Preferred mode, in the gateway's own numbering");
+            command.addOption("--force3g", given->force3g, "Hold the modem to 3G (true, false)");
         }
-        command->callback([&session, given, run = row.run] { run(session, *given); });
+        command.callback([&session, given, run = row.run] { run(session, *given); });
     }
 }
 

@@ -37,9 +37,9 @@ void set(Session& session, const SecretSource& source)
 
 } // namespace
 
-void addPasswordCommands(CLI::App& app, Session& session)
+void addPasswordCommands(commandline::Command program, Session& session)
 {
-    auto* group = app.add_subcommand("password", "Check or change the administrator password");
+    auto group = program.addCommand("password", "Check or change the administrator password");
     const struct {
         const char* name;
         const char* help;
@@ -52,10 +52,10 @@ void addPasswordCommands(CLI::App& app, Session& session)
                     {"set", "Change the administrator password", "new-password",
                      "QUORVELCTL_NEW_PASSWORD", "new password", set}};
     for (const auto& command : commands) {
-        auto* subcommand = group->add_subcommand(command.name, command.help);
+        auto subcommand = group.addCommand(command.name, command.help);
         const auto source = std::make_shared<SecretSource>();
-        source->addTo(*subcommand, command.option, command.variable, command.meaning);
-        subcommand->callback([&session, source, run = command.run] { run(session, *source); });
+        source->addTo(subcommand, command.option, command.variable, command.meaning);
+        subcommand.callback([&session, source, run = command.run] { run(session, *source); });
     }
 }
 

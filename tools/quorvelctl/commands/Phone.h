@@ -1,8 +1,7 @@
 #pragma once
 
 #include "Session.h"
-
-#include <CLI/App.hpp>
+#include "commandline/CommandLine.h"
 
 namespace quorvelctl
 {
@@ -18,6 +17,6 @@ void expectNewerTelephony(Gateway& gateway);
 QList<quorvel::AspVoipAccount> readLines(Gateway& gateway);
 
 /// Adds the command that lists calls to those of the telephony.
-void addPhoneHistory(CLI::App& group, Session& session);
+void addPhoneHistory(commandline::Command group, Session& session);
 
 } // namespace quorvelctl

@@ -232,30 +232,30 @@ void gains(Session& session, const GainChange& change)
         setGains(session, change);
 }
 
-void addAccounts(CLI::App& group, Session& session)
+void addAccounts(commandline::Command group, Session& session)
 {
-    auto* show = group.add_subcommand("accounts", "Show the lines with their accounts and gains");
+    auto show = group.addCommand("accounts", "Show the lines with their accounts and gains");
     const auto ranges = std::make_shared<GainRanges>();
-    ranges->addTo(*show);
-    show->callback([&session, ranges] { showAccounts(session, *ranges); });
+    ranges->addTo(show);
+    show.callback([&session, ranges] { showAccounts(session, *ranges); });
 }
 
-void addSet(CLI::App& group, Session& session)
+void addSet(commandline::Command group, Session& session)
 {
-    auto* write = group.add_subcommand("set", "Change the account of a line");
+    auto write = group.addCommand("set", "Change the account of a line");
     const auto change = std::make_shared<AccountChange>();
-    write->add_option("line", change->line, "Number of the line")->required()->type_name("NUMBER");
+    write.addOption("line", change->line, "Number of the line").required().valueName("NUMBER");
     for (const auto& row : accountTexts)
-        write->add_option_function<std::string>(
+        write.addOption(
             std::string("--") + row.option,
             [change, name = std::string(row.option)](const std::string& text) {
                 change->texts[name] = text;
             },
             row.help);
-    auto* enable = write->add_flag("--enable", change->enable, "Switch the line on");
-    write->add_flag("--disable", change->disable, "Switch the line off")->excludes(enable);
-    change->password.addTo(*write, "sip-password", "QUORVELCTL_SIP_PASSWORD", "SIP password");
-    write->callback([&session, change] { setAccount(session, *change); });
+    auto enable = write.addFlag("--enable", change->enable, "Switch the line on");
+    write.addFlag("--disable", change->disable, "Switch the line off").excludes(enable);
+    change->password.addTo(write, "sip-password", "QUORVELCTL_SIP_PASSWORD", "SIP password");
+    write.callback([&session, change] { setAccount(session, *change); });
 }
 
 std::string refuseUnlessPercentage(const std::string& text)
@@ -265,20 +265,19 @@ std::string refuseUnlessPercentage(const std::string& text)
                : "a gain is a number from 0 to 100, and not " + text;
 }
 
-void addGains(CLI::App& group, Session& session)
+void addGains(commandline::Command group, Session& session)
 {
-    auto* command = group.add_subcommand("gains", "Show the gains, or change those of a line");
+    auto command = group.addCommand("gains", "Show the gains, or change those of a line");
     const auto change = std::make_shared<GainChange>();
-    command->add_option("line", change->line, "Number of the line")->type_name("NUMBER");
-    const CLI::Validator percentage(refuseUnlessPercentage, std::string());
-    command->add_option("--transmit", change->transmit, "Loudness towards the network, 0 to 100")
-        ->type_name("PERCENT")
-        ->check(percentage);
-    command->add_option("--receive", change->receive, "Loudness towards the telephone, 0 to 100")
-        ->type_name("PERCENT")
-        ->check(percentage);
-    change->ranges.addTo(*command);
-    command->callback([&session, change] { gains(session, *change); });
+    command.addOption("line", change->line, "Number of the line").valueName("NUMBER");
+    command.addOption("--transmit", change->transmit, "Loudness towards the network, 0 to 100")
+        .valueName("PERCENT")
+        .check(refuseUnlessPercentage);
+    command.addOption("--receive", change->receive, "Loudness towards the telephone, 0 to 100")
+        .valueName("PERCENT")
+        .check(refuseUnlessPercentage);
+    change->ranges.addTo(command);
+    command.callback([&session, change] { gains(session, *change); });
 }
 
 } // namespace
@@ -305,13 +304,13 @@ QList<AspVoipAccount> readLines(Gateway& gateway)
     return readTelephony(gateway).accounts;
 }
 
-void addPhoneCommands(CLI::App& app, Session& session)
+void addPhoneCommands(commandline::Command program, Session& session)
 {
-    auto* group = app.add_subcommand("phone", "Show or change accounts and gains, list calls");
-    addAccounts(*group, session);
-    addSet(*group, session);
-    addGains(*group, session);
-    addPhoneHistory(*group, session);
+    auto group = program.addCommand("phone", "Show or change accounts and gains, list calls");
+    addAccounts(group, session);
+    addSet(group, session);
+    addGains(group, session);
+    addPhoneHistory(group, session);
 }
 
 } // namespace quorvelctl

@@ -136,18 +136,17 @@ void history(Session& session, const Wanted& wanted)
 
 } // namespace
 
-void addPhoneHistory(CLI::App& group, Session& session)
+void addPhoneHistory(commandline::Command group, Session& session)
 {
-    auto* command = group.add_subcommand("history", "List the calls, the newest first");
+    auto command = group.addCommand("history", "List the calls, the newest first");
     const auto wanted = std::make_shared<Wanted>();
-    command->add_option("--line", wanted->line, "Calls of this line only")
-        ->check(CLI::NonNegativeNumber);
+    command.addOption("--line", wanted->line, "Calls of this line only").notNegative();
     command
-        ->add_option("--kind", wanted->kind,
-                     "Calls of this kind only, in the gateway's numbering; 3 stands for all")
-        ->check(CLI::NonNegativeNumber);
-    command->add_flag("--csv", wanted->csv, "Print CSV in the gateway's order instead of a table");
-    command->callback([&session, wanted] { history(session, *wanted); });
+        .addOption("--kind", wanted->kind,
+                   "Calls of this kind only, in the gateway's numbering; 3 stands for all")
+        .notNegative();
+    command.addFlag("--csv", wanted->csv, "Print CSV in the gateway's order instead of a table");
+    command.callback([&session, wanted] { history(session, *wanted); });
 }
 
 } // namespace quorvelctl

@@ -10,9 +10,9 @@ namespace quorvelctl
 QJsonValue readingOf(const QString& command, Session& session)
 {
     // A command leaves what it was given in its parser, so each gets a new one.
-    CLI::App commands;
-    addCommands(commands, session);
-    const QByteArray text = session.collectJson([&] { commands.parse(command.toStdString()); });
+    commandline::CommandLine line;
+    addCommands(line.program(), session);
+    const QByteArray text = session.collectJson([&] { line.run(command.toStdString()); });
     const QJsonDocument document = QJsonDocument::fromJson(text);
     return document.isArray() ? QJsonValue(document.array()) : QJsonValue(document.object());
 }

@@ -41,7 +41,7 @@ void run(Session& session, const Restart& restart)
 
 } // namespace
 
-void addRestartCommands(CLI::App& app, Session& session)
+void addRestartCommands(commandline::Command program, Session& session)
 {
     const Restart restarts[] = {
         {"reboot", "Restart the gateway", "Restart the gateway at %1?", "restart the gateway",
@@ -50,11 +50,11 @@ void addRestartCommands(CLI::App& app, Session& session)
          "Reset the gateway at %1 to its factory settings? All its settings are lost.",
          "reset the gateway", &AspGeneralSettingsFacade::factoryDefault}};
     for (const Restart& row : restarts) {
-        auto* command = app.add_subcommand(row.name, row.help);
+        auto command = program.addCommand(row.name, row.help);
         const auto restart = std::make_shared<Restart>(row);
-        command->add_flag("-y,--yes", restart->confirmed, "Don't ask");
-        command->add_flag("--wait", restart->wait, "Wait until the gateway answers again");
-        command->callback([&session, restart] { run(session, *restart); });
+        command.addFlag("-y,--yes", restart->confirmed, "Don't ask");
+        command.addFlag("--wait", restart->wait, "Wait until the gateway answers again");
+        command.callback([&session, restart] { run(session, *restart); });
     }
 }
 

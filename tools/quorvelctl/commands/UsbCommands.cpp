@@ -178,7 +178,7 @@ void sharing(Session& session, const std::map<std::string, std::string>& given)
     session.output().print(record);
 }
 
-void addDiskActions(CLI::App& group, Session& session)
+void addDiskActions(commandline::Command group, Session& session)
 {
     const DiskAction actions[] = {
         {"mount", "Mount a disk", true, &AspUsbHostSettingsFacade::diskMount, {}},
@@ -188,40 +188,39 @@ void addDiskActions(CLI::App& group, Session& session)
          &AspUsbHostSettingsFacade::diskUnmount,
          {}}};
     for (const DiskAction& row : actions) {
-        auto* command = group.add_subcommand(row.name, row.help);
+        auto command = group.addCommand(row.name, row.help);
         const auto action = std::make_shared<DiskAction>(row);
-        command->add_option("disk", action->disk, "The disk, as usb devices lists it")
-            ->required()
-            ->type_name("ID");
-        command->callback([&session, action] { run(session, *action); });
+        command.addOption("disk", action->disk, "The disk, as usb devices lists it")
+            .required()
+            .valueName("ID");
+        command.callback([&session, action] { run(session, *action); });
     }
 }
 
-void addSharing(CLI::App& group, Session& session)
+void addSharing(commandline::Command group, Session& session)
 {
-    auto* command = group.add_subcommand("sharing", "Show how disks are shared, or change it");
+    auto command = group.addCommand("sharing", "Show how disks are shared, or change it");
     const auto given = std::make_shared<std::map<std::string, std::string>>();
     for (const auto& row : sharingTexts)
-        command->add_option_function<std::string>(
+        command.addOption(
             std::string("--") + row.key,
             [given, key = std::string(row.key)](const std::string& text) { (*given)[key] = text; },
             row.help);
-    command->callback([&session, given] { sharing(session, *given); });
+    command.callback([&session, given] { sharing(session, *given); });
 }
 
 } // namespace
 
-void addUsbCommands(CLI::App& app, Session& session)
+void addUsbCommands(commandline::Command program, Session& session)
 {
-    auto* group =
-        app.add_subcommand("usb", "Show USB devices, mount disks, show or change sharing");
-    group->add_subcommand("devices", "List the disks and printers")->callback([&session] {
+    auto group = program.addCommand("usb", "Show USB devices, mount disks, show or change sharing");
+    group.addCommand("devices", "List the disks and printers").callback([&session] {
         devices(session);
     });
-    group->add_subcommand("status", "Tell whether there is a printer, and a mounted disk")
-        ->callback([&session] { status(session); });
-    addDiskActions(*group, session);
-    addSharing(*group, session);
+    group.addCommand("status", "Tell whether there is a printer, and a mounted disk")
+        .callback([&session] { status(session); });
+    addDiskActions(group, session);
+    addSharing(group, session);
 }
 
 } // namespace quorvelctl

@@ -171,21 +171,21 @@ void switchConnection(Session& session, const Switch& given)
         word("%1 is the default gateway until the gateway restarts.").arg(defaultGw));
 }
 
-void addToggles(CLI::App& group, Session& session)
+void addToggles(commandline::Command group, Session& session)
 {
     static const Toggle toggles[] = {
         {"enable", "Switch a WAN on", "enable %1", "%1 is enabled.", &Facade::enableWan},
         {"disable", "Switch a WAN off", "disable %1", "%1 is disabled.", &Facade::disableWan}};
     for (const Toggle& row : toggles) {
-        auto* command = group.add_subcommand(row.name, row.help);
+        auto command = group.addCommand(row.name, row.help);
         const auto wan = std::make_shared<std::string>();
-        command->add_option("wan", *wan, "WAN, as wan-0")->required();
-        command->callback(
+        command.addOption("wan", *wan, "WAN, as wan-0").required();
+        command.callback(
             [&session, &row, wan] { toggle(session, row, QString::fromStdString(*wan)); });
     }
 }
 
-void addChanges(CLI::App& group, Session& session)
+void addChanges(commandline::Command group, Session& session)
 {
     const struct {
         const char* name;
@@ -202,11 +202,11 @@ void addChanges(CLI::App& group, Session& session)
         {"delete-iface", "Take an interface from a WAN", "iface", "Name of the interface",
          deleteIface}};
     for (const auto& row : changes) {
-        auto* command = group.add_subcommand(row.name, row.help);
+        auto command = group.addCommand(row.name, row.help);
         const auto names = std::make_shared<Names>();
-        command->add_option("wan", names->wan, "WAN, as wan-0")->required();
-        command->add_option(row.argument, names->other, row.meaning)->required();
-        command->callback([&session, names, argument = row.argument, run = row.run] {
+        command.addOption("wan", names->wan, "WAN, as wan-0").required();
+        command.addOption(row.argument, names->other, row.meaning).required();
+        command.callback([&session, names, argument = row.argument, run = row.run] {
             if (names->other.empty())
                 throw Failure{WrongUsage, word("the %1 is empty").arg(word(argument))};
             run(session, QString::fromStdString(names->wan), QString::fromStdString(names->other));
@@ -214,23 +214,23 @@ void addChanges(CLI::App& group, Session& session)
     }
 }
 
-void addSwitch(CLI::App& group, Session& session)
+void addSwitch(commandline::Command group, Session& session)
 {
-    auto* command = group.add_subcommand(
-        "switch", "Make a WAN the default gateway, until the gateway restarts");
+    auto command =
+        group.addCommand("switch", "Make a WAN the default gateway, until the gateway restarts");
     const auto given = std::make_shared<Switch>();
-    command->add_option("wan", given->defaultGw, "WAN, as wan-0")->required();
+    command.addOption("wan", given->defaultGw, "WAN, as wan-0").required();
     const auto addWans = [&](const char* name, std::vector<std::string>& wans, const char* help) {
-        command->add_option(name, wans, help)->allow_extra_args(false)->delimiter(',');
+        command.addOption(name, wans, help).oneAtATime().separator(',');
     };
     addWans("--enable", given->enable, "WANs to switch on, separated by commas");
     addWans("--disable", given->disable, "WANs to switch off, separated by commas");
-    command->callback([&session, given] { switchConnection(session, *given); });
+    command.callback([&session, given] { switchConnection(session, *given); });
 }
 
 } // namespace
 
-void addWanChanges(CLI::App& group, Session& session)
+void addWanChanges(commandline::Command group, Session& session)
 {
     addToggles(group, session);
     addSwitch(group, session);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <CLI/App.hpp>
+#include "commandline/CommandLine.h"
 
 namespace quorvelctl
 {
@@ -8,6 +8,6 @@ namespace quorvelctl
 class Session;
 
 /// Adds those of the WAN commands that change the gateway.
-void addWanChanges(CLI::App& group, Session& session);
+void addWanChanges(commandline::Command group, Session& session);
 
 } // namespace quorvelctl

@@ -114,28 +114,28 @@ void status(Session& session)
     session.output().print(record);
 }
 
-void addReading(CLI::App& group, Session& session)
+void addReading(commandline::Command group, Session& session)
 {
-    group.add_subcommand("list", "List the WANs and how each is doing")->callback([&session] {
+    group.addCommand("list", "List the WANs and how each is doing").callback([&session] {
         list(session);
     });
     group
-        .add_subcommand("status", "Show the default gateway, the state of the internet connection "
-                                  "and the links")
-        ->callback([&session] { status(session); });
-    auto* command = group.add_subcommand("show", "Show what a WAN is made of");
+        .addCommand("status", "Show the default gateway, the state of the internet connection "
+                              "and the links")
+        .callback([&session] { status(session); });
+    auto command = group.addCommand("show", "Show what a WAN is made of");
     const auto wan = std::make_shared<std::string>();
-    command->add_option("wan", *wan, "WAN, as wan-0")->required();
-    command->callback([&session, wan] { show(session, QString::fromStdString(*wan)); });
+    command.addOption("wan", *wan, "WAN, as wan-0").required();
+    command.callback([&session, wan] { show(session, QString::fromStdString(*wan)); });
 }
 
 } // namespace
 
-void addWanCommands(CLI::App& app, Session& session)
+void addWanCommands(commandline::Command program, Session& session)
 {
-    auto* group = app.add_subcommand("wan", "Show or change the gateway's WANs");
-    addReading(*group, session);
-    addWanChanges(*group, session);
+    auto group = program.addCommand("wan", "Show or change the gateway's WANs");
+    addReading(group, session);
+    addWanChanges(group, session);
 }
 
 } // namespace quorvelctl

@@ -85,24 +85,22 @@ void set(Session& session, const Given& given)
 
 } // namespace
 
-void addWarrantyCommands(CLI::App& app, Session& session)
+void addWarrantyCommands(commandline::Command program, Session& session)
 {
-    auto* group = app.add_subcommand("warranty", "Show or change the gateway's warranty record");
-    group->add_subcommand("show", "Show the warranty record")->callback([&session] {
-        show(session);
-    });
-    auto* write = group->add_subcommand("set", "Change texts of the warranty record");
+    auto group = program.addCommand("warranty", "Show or change the gateway's warranty record");
+    group.addCommand("show", "Show the warranty record").callback([&session] { show(session); });
+    auto write = group.addCommand("set", "Change texts of the warranty record");
     const auto given = std::make_shared<Given>();
     for (const Text& text : texts) {
         const std::string key = text.key;
         if (text.variable)
-            given->secrets[key].addTo(*write, key, text.variable, key);
+            given->secrets[key].addTo(write, key, text.variable, key);
         else
-            write->add_option_function<std::string>(
+            write.addOption(
                 "--" + key, [given, key](const std::string& words) { given->texts[key] = words; },
                 "New text of the field " + key);
     }
-    write->callback([&session, given] { set(session, *given); });
+    write.callback([&session, given] { set(session, *given); });
 }
 
 } // namespace quorvelctl

@@ -276,19 +276,19 @@ void watch(Session& session, const Wanted& wanted)
 
 } // namespace
 
-void addWatchCommand(CLI::App& app, Session& session)
+void addWatchCommand(commandline::Command program, Session& session)
 {
-    auto* command = app.add_subcommand(
+    auto command = program.addCommand(
         "watch", "Show the state of connection, radios and lines until it is interrupted");
     const auto wanted = std::make_shared<Wanted>();
-    command->add_option("--interval", wanted->intervalS, "Seconds between two looks")
-        ->type_name("SECONDS")
-        ->check(CLI::Range(1, 86400))
-        ->capture_default_str();
-    command->add_option("--count", wanted->count, "End after so many looks")
-        ->type_name("NUMBER")
-        ->check(CLI::PositiveNumber);
-    command->callback([&session, wanted] { watch(session, *wanted); });
+    command.addOption("--interval", wanted->intervalS, "Seconds between two looks")
+        .valueName("SECONDS")
+        .between(1, 86400)
+        .showDefault();
+    command.addOption("--count", wanted->count, "End after so many looks")
+        .valueName("NUMBER")
+        .positive();
+    command.callback([&session, wanted] { watch(session, *wanted); });
 }
 
 } // namespace quorvelctl

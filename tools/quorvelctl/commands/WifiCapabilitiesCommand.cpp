@@ -145,12 +145,12 @@ void capabilities(Session& session, const std::string& name)
 
 } // namespace
 
-void addWifiCapabilities(CLI::App& group, Session& session)
+void addWifiCapabilities(commandline::Command group, Session& session)
 {
-    auto* command = group.add_subcommand(
+    auto command = group.addCommand(
         "capabilities", "Show the modes, channel widths and channels of newer radios per band");
-    const auto radio = addRadioOption(*command);
-    command->callback([&session, radio] { capabilities(session, *radio); });
+    const auto radio = addRadioOption(command);
+    command.callback([&session, radio] { capabilities(session, *radio); });
 }
 
 } // namespace quorvelctl

@@ -210,24 +210,23 @@ void wps(Session& session, const std::string& name, const std::string& state)
     session.output().print(records, QString());
 }
 
-void addWps(CLI::App& group, Session& session)
+void addWps(commandline::Command group, Session& session)
 {
-    auto* command = group.add_subcommand(
+    auto command = group.addCommand(
         "wps", "Show whether devices can join by WPS, or switch that at an older radio");
-    const auto radio = addRadioOption(*command);
+    const auto radio = addRadioOption(command);
     const auto state = std::make_shared<std::string>();
-    command->add_option("state", *state, "Switch WPS on or off")
-        ->check(CLI::IsMember({"on", "off"}));
-    command->callback([&session, radio, state] { wps(session, *radio, *state); });
+    command.addOption("state", *state, "Switch WPS on or off").oneOf({"on", "off"});
+    command.callback([&session, radio, state] { wps(session, *radio, *state); });
 }
 
 } // namespace
 
-std::shared_ptr<std::string> addRadioOption(CLI::App& command)
+std::shared_ptr<std::string> addRadioOption(commandline::Command command)
 {
     const auto radio = std::make_shared<std::string>();
-    command.add_option("--radio", *radio, "The radio, by the name that 'wifi list' shows")
-        ->type_name("RADIO");
+    command.addOption("--radio", *radio, "The radio, by the name that 'wifi list' shows")
+        .valueName("RADIO");
     return radio;
 }
 
@@ -241,11 +240,10 @@ void excuse(const QStringList& silent, int asked, const char* question)
         std::cerr << "quorvelctl: " << printable(line).toStdString() << '\n';
 }
 
-void addWifiCommands(CLI::App& app, Session& session)
+void addWifiCommands(commandline::Command program, Session& session)
 {
-    auto* group = app.add_subcommand("wifi", "Show and change the wireless networks");
-    group->require_subcommand(1);
-    group->add_subcommand("list", "List the radios and their networks")->callback([&session] {
+    auto group = program.addCommand("wifi", "Show and change the wireless networks");
+    group.addCommand("list", "List the radios and their networks").callback([&session] {
         list(session);
     });
     const struct {
@@ -258,14 +256,14 @@ void addWifiCommands(CLI::App& app, Session& session)
         {"mesh", "List the mesh links", mesh},
         {"security-modes", "List the security modes that a radio can have", securityModes}};
     for (const auto& row : commands) {
-        auto* command = group->add_subcommand(row.name, row.help);
-        const auto radio = addRadioOption(*command);
-        command->callback([&session, radio, run = row.run] { run(session, *radio); });
+        auto command = group.addCommand(row.name, row.help);
+        const auto radio = addRadioOption(command);
+        command.callback([&session, radio, run = row.run] { run(session, *radio); });
     }
-    addWifiSet(*group, session);
-    addWps(*group, session);
-    addWifiCapabilities(*group, session);
-    addWifiQr(*group, session);
+    addWifiSet(group, session);
+    addWps(group, session);
+    addWifiCapabilities(group, session);
+    addWifiQr(group, session);
 }
 
 } // namespace quorvelctl

@@ -123,22 +123,21 @@ void qr(Session& session, const std::string& name, const std::string& png)
 
 } // namespace
 
-void addWifiQr(CLI::App& group, Session& session)
+void addWifiQr(commandline::Command group, Session& session)
 {
-    auto* command = group.add_subcommand(
+    auto command = group.addCommand(
         "qr", "Show the QR code with which a phone joins the network of a radio, key included");
-    command->footer("To ask for the code is to ask for the key: it is in the code in clear, with "
-                    "--show-secrets and without.\n\n" +
-                    group.get_footer());
-    const auto radio = addRadioOption(*command);
+    command.addRemark("To ask for the code is to ask for the key: it is in the code in clear, with "
+                      "--show-secrets and without.");
+    const auto radio = addRadioOption(command);
     const auto png = std::make_shared<std::string>();
     command
-        ->add_option("--png", *png, "Write it to this file as a PNG image, for nobody else to read")
-        ->type_name("FILE")
-        ->check([](const std::string& path) {
+        .addOption("--png", *png, "Write it to this file as a PNG image, for nobody else to read")
+        .valueName("FILE")
+        .check([](const std::string& path) {
             return std::string(path.empty() ? "it needs a name" : "");
         });
-    command->callback([&session, radio, png] { qr(session, *radio, *png); });
+    command.callback([&session, radio, png] { qr(session, *radio, *png); });
 }
 
 } // namespace quorvelctl

@@ -275,24 +275,24 @@ void set(Session& session, Changes changes)
 
 /// Lets an option change the last of the changes while the command line is read, as its place
 /// decides which radio it is for.
-void addOption(CLI::App& command, const std::shared_ptr<Changes>& changes, const char* name,
-               const char* value, const char* help,
+void addOption(commandline::Command command, const std::shared_ptr<Changes>& changes,
+               const char* name, const char* value, const char* help,
                std::function<void(Change&, const std::string&)> take)
 {
     command
-        .add_option_function<std::string>(
+        .addOption(
             name, [changes, take](const std::string& text) { take(changes->last(), text); }, help)
-        ->type_name(value)
-        ->trigger_on_parse();
+        .valueName(value)
+        .inPlace();
 }
 
-void addFlag(CLI::App& command, const std::shared_ptr<Changes>& changes, const char* name,
-             const char* help, std::function<void(Change&)> take)
+void addFlag(commandline::Command command, const std::shared_ptr<Changes>& changes,
+             const char* name, const char* help, std::function<void(Change&)> take)
 {
     command
-        .add_flag_callback(
+        .addFlag(
             name, [changes, take] { take(changes->last()); }, help)
-        ->trigger_on_parse();
+        .inPlace();
 }
 
 /// An argument as text. What isn't UTF-8 would become another name than was meant.
@@ -304,7 +304,7 @@ QString textOf(const char* option, const std::string& argument)
     return text;
 }
 
-void addTextOptions(CLI::App& command, const std::shared_ptr<Changes>& changes)
+void addTextOptions(commandline::Command command, const std::shared_ptr<Changes>& changes)
 {
     const struct {
         const char* option;
@@ -339,7 +339,7 @@ void takeStatus(Change& change, AspWirelessStatus status)
     change.status = status;
 }
 
-void addKeyOptions(CLI::App& command, const std::shared_ptr<Changes>& changes)
+void addKeyOptions(commandline::Command command, const std::shared_ptr<Changes>& changes)
 {
     addOption(command, changes, "--key-file", "FILE",
               "Read the new key from the first line of this file",
@@ -357,25 +357,24 @@ void addKeyOptions(CLI::App& command, const std::shared_ptr<Changes>& changes)
 
 } // namespace
 
-void addWifiSet(CLI::App& group, Session& session)
+void addWifiSet(commandline::Command group, Session& session)
 {
-    auto* command = group.add_subcommand(
+    auto command = group.addCommand(
         "set", "Change what is named of one or several radios, all in one request");
-    command->footer("The options behind a --radio are for that radio. Each change also makes the "
-                    "radio a registrar in WPS, and may end all connections over it.\n\n" +
-                    group.get_footer());
+    command.addRemark("The options behind a --radio are for that radio. Each change also makes the "
+                      "radio a registrar in WPS, and may end all connections over it.");
     const auto changes = std::make_shared<Changes>(Changes{Change()});
-    addOption(*command, changes, "--radio", "RADIO",
+    addOption(command, changes, "--radio", "RADIO",
               "The radio that the options behind it are for, or 'all'; not needed if there is only "
               "one",
               [changes](Change&, const std::string& radio) { begin(*changes, radio); });
-    addTextOptions(*command, changes);
-    addKeyOptions(*command, changes);
-    addFlag(*command, changes, "--on", "Switch the radio on",
+    addTextOptions(command, changes);
+    addKeyOptions(command, changes);
+    addFlag(command, changes, "--on", "Switch the radio on",
             [](Change& change) { takeStatus(change, AspWirelessEnabled); });
-    addFlag(*command, changes, "--off", "Switch the radio off",
+    addFlag(command, changes, "--off", "Switch the radio off",
             [](Change& change) { takeStatus(change, AspWirelessDisabled); });
-    command->callback([&session, changes] { set(session, *changes); });
+    command.callback([&session, changes] { set(session, *changes); });
 }
 
 } // namespace quorvelctl
