@@ -27,6 +27,26 @@ function(quorvel_own_target target)
     endif()
 endfunction()
 
+# Has the compiler read headers that most files of a target include once, where a build is but for
+# tests. The other builds show that each file includes what it uses.
+function(quorvel_precompile_for_sanitizers target)
+    if(NOT QUORVEL_SANITIZE)
+        return()
+    endif()
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+    # Not for files with definitions of their own, which the headers were read without.
+    get_target_property(sources ${target} SOURCES)
+    get_target_property(folder ${target} SOURCE_DIR)
+    foreach(source IN LISTS sources)
+        cmake_path(ABSOLUTE_PATH source BASE_DIRECTORY ${folder})
+        get_source_file_property(definitions ${source} TARGET_DIRECTORY ${target} COMPILE_DEFINITIONS)
+        if(definitions)
+            set_source_files_properties(${source} TARGET_DIRECTORY ${target}
+                PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+        endif()
+    endforeach()
+endfunction()
+
 # For what uses the command-line library: it is all in headers, and optimising all of it for each file
 # takes longer than the programs ever run.
 function(quorvel_command_line_target target)
