@@ -12,6 +12,9 @@ a fenced block is stands behind its fence:
     text            neither input nor output; nothing is done with it
     LANGUAGE FILE   an excerpt of that file of the clone, or else a file that the reader makes
 
+A command between the lines of the text, in backticks, must stand in a block that is run, or in what
+CI runs (RUNS below), there perhaps with more behind it.
+
 Ports differ from run to run: the first time that a document shows one it is learnt, and from then
 on the document's number means the real one.
 """
@@ -30,6 +33,11 @@ PATIENCE = 120  # seconds: only a failure takes that long
 BUILDING = 1800
 PORT = re.compile(r"(127\.0\.0\.1:|control port )(\d+)")
 MARK = "--done-5f1c--"
+COMMAND = re.compile(
+    r"`((?:[A-Z_]+=\S+ )*(?:\./\w|scripts/\w|(?:ctest|cpack|cmake|git|apt|apt-get) )[^`]*)`")
+# What CI does beside following the documents.
+RUNS = [".ci/run", "check", "tests/docs/CMakeLists.txt", "tests/quorvelctl/CMakeLists.txt",
+        "tests/install/debian-packages-test"]
 
 # What the statements of a snippet can use beside the library.
 SNIPPET = """
@@ -116,6 +124,31 @@ def blocks_of(document, text):
             fence = None
         else:
             lines.append(line + "\n")
+
+
+def without_blocks(text):
+    return re.sub(r"^```.*?^```$", "", text, flags=re.MULTILINE | re.DOTALL)
+
+
+def commands_run(clone, documents):
+    """The text of all that CI runs."""
+    texts = [(clone / file).read_text() for file in RUNS]
+    for document in documents:
+        texts += [block.text for block in blocks_of(document, (clone / document).read_text())
+                  if block.language in ("sh", "console")]
+    return "\n".join(line for text in texts for line in any_build(text).splitlines()
+                     if not line.lstrip().startswith("#"))
+
+
+def any_build(command):
+    """The command for whichever build folder."""
+    return re.sub(r"build/(release|install)(?=/)", "$build", command.replace('"', ""))
+
+
+def expect_all_run(document, text, runs):
+    for command in COMMAND.findall(without_blocks(text)):
+        if any_build(command) not in runs:
+            raise Wrong(f"{document}: a command that nobody runs: {command}")
 
 
 class Reader:
@@ -284,10 +317,12 @@ def main(source, scratch, documents):
         # What is built already need not be built again.
         "CCACHE_DIR": cache, "CCACHE_BASEDIR": str(clone), "CCACHE_NOHASHDIR": "1",
         "CCACHE_SLOPPINESS": "include_file_mtime,include_file_ctime,pch_defines,time_macros"}
+    runs = commands_run(clone, documents)
     failed = 0
     for document in documents:
         reader = Reader(clone, home, document, environment)
         try:
+            expect_all_run(document, (clone / document).read_text(), runs)
             reader.follow()
             print(f"{document}: as it says", flush=True)
         except Wrong as wrong:
