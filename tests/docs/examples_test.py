@@ -1,6 +1,7 @@
 """Runs each example against a simulated gateway: examples_test.py SIMULATOR FOLDER"""
 
 import os
+import pathlib
 import subprocess
 import sys
 import unittest
@@ -8,6 +9,7 @@ import unittest
 from simulator import PATIENCE, Program, Simulator
 
 SIMULATOR, FOLDER = sys.argv[1:3]
+SOURCES = pathlib.Path(__file__).parents[2] / "examples"
 ENVIRONMENT = {**os.environ, "GATEWAY_PASSWORD": "admin", "PPPOE_PASSWORD": "horse battery"}
 
 
@@ -23,6 +25,12 @@ def run(example, *arguments, typed="", environment=None):
 
 
 class Examples(unittest.TestCase):
+    def test_each_is_less_than_a_page(self):
+        lines = {source.name: len(source.read_text().splitlines())
+                 for source in SOURCES.glob("*.cpp")}
+        self.assertEqual(len(lines), 7)
+        self.assertEqual({name: n for name, n in lines.items() if n >= 60}, {})
+
     def test_identity_is_read(self):
         with gateway("modern") as home:
             self.assertEqual(run("1-identity", home.address), (0, """\
