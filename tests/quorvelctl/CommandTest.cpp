@@ -92,6 +92,20 @@ const Case cases[] = {
      "    \"wlanMac\": \"02:00:5E:10:01:03\"\n"
      "}\n",
      ""},
+    {"Hints", "hints", 0,
+     "Restart is due:           no\n"
+     "Restart takes about (ms): 90000\n"
+     "Upgrade takes about (ms): 240000\n"
+     "User names end with:      @example.net\n",
+     ""},
+    {"HintsAsJson", "hints --json", 0,
+     "{\n"
+     "    \"fwUpgradeDurationMs\": 240000,\n"
+     "    \"rebootDurationMs\": 90000,\n"
+     "    \"rebootRequired\": false,\n"
+     "    \"usernameExtension\": \"@example.net\"\n"
+     "}\n",
+     ""},
     {"FeaturesAsJson", "features --json", 0,
      "{\n"
      "    \"3g\": \"1\",\n"
@@ -337,6 +351,27 @@ TEST_F(Quorvelctl, NeverLetsControlCharactersReachTheTerminal)
     EXPECT_EQ(logged.status, 0);
     EXPECT_THAT(logged.errors, HasSubstr("Firmware Version:a\xef\xbf\xbd"
                                          "2Jb\n"));
+}
+
+class QuorvelctlHints : public QuorvelctlTest
+{
+};
+
+TEST_F(QuorvelctlHints, LeaveOutWhatTheGatewayDoesNotTell)
+{
+    spoil("error:5 key=reboot_req");
+    simulator.setStatus("webui-0", "reboot_duration", "soon");
+    const Outcome result = run("hints");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "");
+    EXPECT_EQ(result.output, "Upgrade takes about (ms): 240000\n"
+                             "User names end with:      @example.net\n");
+}
+
+TEST_F(QuorvelctlHints, FailIfAQuestionGetsLost)
+{
+    spoil("close key=reboot_req");
+    expectComplaint("hints", 4, "can't read the hints: the request failed on the way");
 }
 
 TEST(QuorvelctlComplaint, NeverLetsControlCharactersReachTheTerminal)

@@ -54,8 +54,9 @@ TEST_P(QuorvelctlDumpOf, IsReplayedToTheLastByte)
 TEST_P(QuorvelctlDumpOf, AnswersOtherCommandsAsTheGatewayDid)
 {
     const Outcome dump = run("dump --show-secrets");
-    for (const std::string command : {"info", "clients", "wan list", "wifi show --show-secrets",
-                                      "phone accounts --show-secrets"}) {
+    for (const std::string command :
+         {"info", "hints", "clients", "wan list", "wifi show --show-secrets",
+          "phone accounts --show-secrets"}) {
         const Outcome there = run(command);
         EXPECT_NE(there.output, "") << command;
         const Outcome replayed = runOnReplay(dump.output, command);
@@ -83,8 +84,8 @@ TEST_F(QuorvelctlDump, HoldsWhatTheCommandsReadAndWhatTheGatewaySaid)
     const std::string dump = run("dump").output;
     for (const char* part :
          {"            \"model\": \"QV-4400X Home\",\n", "            \"inUse\": \"wan-1\",\n",
-          "        \"warranty\": {\n", "            \"wan-2\": {\n",
-          "                \"radio\": \"wireless-0\",\n",
+          "            \"rebootDurationMs\": 90000,\n", "        \"warranty\": {\n",
+          "            \"wan-2\": {\n", "                \"radio\": \"wireless-0\",\n",
           "        \"description\": \"A gateway that was dumped\",\n"
           "        \"dialect\": \"1.0.1\",\n",
           "<query inst=\\\"sysmgr-0\\\">\\n  <key>fwversion</key>\\n", "<value>3.2.0-r7</value>"})

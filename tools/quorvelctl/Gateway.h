@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Failure.h"
 #include "LogWatch.h"
 
 #include <quorvel/QuorvelApi1.h>
@@ -7,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 #include <boost/shared_ptr.hpp>
+#include <optional>
 
 namespace quorvelctl
 {
@@ -55,6 +57,21 @@ public:
         const auto result = call(error);
         expectSuccess(what, error);
         return result;
+    }
+
+    /// The same for what a gateway may not tell: nothing if it refuses to, or an error line says
+    /// that it doesn't.
+    template <typename Call>
+    auto askIfTold(const QString& what, Call call)
+    {
+        std::optional<decltype(order(what, call))> told;
+        try {
+            told = ask(what, call);
+        } catch (const Failure& failure) {
+            if (failure.status != GatewayFailed)
+                throw;
+        }
+        return told;
     }
 
     /// The same for a call whose result is false on failure: false fails also without an error.

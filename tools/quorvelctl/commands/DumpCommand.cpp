@@ -79,6 +79,7 @@ struct Reading {
 const Reading readings[] = {
     {"info", "info"},
     {"features", "features"},
+    {"hints", "hints"},
     {"managers", "managers"},
     {"clients", "clients"},
     {"warranty", "warranty show",

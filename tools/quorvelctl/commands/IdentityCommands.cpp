@@ -135,6 +135,32 @@ void managers(Session& session)
     session.output().print(records, word("No managers."));
 }
 
+/// Adds what the gateway tells of itself for hosts to heed, if it does.
+template <typename Call>
+void appendHint(Record& hints, Gateway& gateway, const char* key, const char* heading, Call call)
+{
+    const auto hint = gateway.askIfTold(word("read the hints"), call);
+    if (hint)
+        hints.append(plainField(key, heading, *hint));
+}
+
+void hints(Session& session)
+{
+    Gateway& gateway = session.gateway();
+    AspGeneralSettingsFacade& general = gateway.general();
+    Record hints;
+    appendHint(hints, gateway, "rebootRequired", "Restart is due",
+               [&](auto& error) { return general.isRebootRequired(error); });
+    appendHint(hints, gateway, "rebootDurationMs", "Restart takes about (ms)",
+               [&](auto& error) { return general.getRebootDuration(error); });
+    appendHint(hints, gateway, "fwUpgradeDurationMs", "Upgrade takes about (ms)",
+               [&](auto& error) { return general.getFwUpgradeDuration(error); });
+    if (const auto internet = gateway.object().getAdslSettingsFacade())
+        appendHint(hints, gateway, "usernameExtension", "User names end with",
+                   [&](auto& error) { return internet->getUsernameExtension(error); });
+    session.output().print(hints);
+}
+
 void showSession(Session& session)
 {
     Gateway& gateway = session.gateway();
@@ -167,6 +193,8 @@ void addIdentityCommands(commandline::Command program, Session& session)
         {"info", "Show what the gateway is: identity, functions, router mode, default gateway",
          info},
         {"features", "Show the gateway's functions and their versions", features},
+        {"hints", "Show how long a restart and an upgrade take, and what else is good to know",
+         hints},
         {"probe", "Test whether something answers at the address, without a login", probe},
         {"clients", "List the clients of the gateway's DHCP server", clients},
         {"managers", "List the managers that run on the gateway", managers},
