@@ -21,14 +21,15 @@ QString textOf(const QDomElement& entry)
 
 QDomDocument readResponse(const QString& response, ParamMap& result)
 {
-    GuardedXmlReader reader;
-    QXmlInputSource plain;
-    GuardedXmlSource guarded;
-    QXmlInputSource& source = GuardedXmlSource::isNeededFor(response) ? guarded : plain;
-    source.setData(response);
-    // With a reader of our own texts of mere white space are kept: a blank is a value.
     QDomDocument document;
-    if (!document.setContent(&source, &reader, nullptr, nullptr, nullptr))
+    const auto read = [&](QXmlInputSource&& source) {
+        source.setData(response);
+        // With a reader of our own texts of mere white space are kept: a blank is a value.
+        GuardedXmlReader reader;
+        return document.setContent(&source, &reader, nullptr, nullptr, nullptr);
+    };
+    if (!(GuardedXmlSource::isNeededFor(response) ? read(GuardedXmlSource())
+                                                  : read(QXmlInputSource())))
         return QDomDocument();
     QDomElement root = document.documentElement();
     result.insert(root.tagName(), root.attributeNode(QStringLiteral("version")).value());

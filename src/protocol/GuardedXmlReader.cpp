@@ -66,7 +66,8 @@ bool GuardedXmlReader::ContentGuard::startElement(const QString& namespaceUri,
 bool GuardedXmlReader::ContentGuard::endElement(const QString& namespaceUri,
                                                 const QString& localName, const QString& qName)
 {
-    prefixes -= prefixesPerLevel.takeLast();
+    prefixes -= prefixesPerLevel.last();
+    prefixesPerLevel.removeLast();
     if (depth-- > entryLevel)
         return true;
     if (!entryText.isEmpty()) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QVector>
+#include <QVarLengthArray>
 #include <QXmlDefaultHandler>
 #include <QXmlInputSource>
 #include <QXmlSimpleReader>
@@ -57,7 +57,7 @@ private:
         int nodes = 0;
         int prefixes = 0;    ///< in force
         int ownPrefixes = 0; ///< of the element that starts next
-        QVector<int> prefixesPerLevel;
+        QVarLengthArray<int, 16> prefixesPerLevel;
         QString entryText;
     };
 
@@ -95,7 +95,8 @@ public:
     /// Whether there can be anything to end a text at. One without is read faster as it is.
     static bool isNeededFor(const QString& text)
     {
-        return text.contains(QLatin1Char('!')) || text.count(QLatin1Char('=')) > mostEqualsSigns;
+        return text.contains(QLatin1Char('!')) ||
+               (text.size() > mostEqualsSigns && text.count(QLatin1Char('=')) > mostEqualsSigns);
     }
 
     QChar next() override;
