@@ -3,7 +3,6 @@
 #include "protocol/AbortSignal.h"
 
 #include <QNetworkProxy>
-#include <QTimer>
 #include <algorithm>
 
 namespace quorvel
@@ -47,6 +46,20 @@ qint64 NetworkExchange::OneWayBody::readData(char* data, qint64 maxSize)
 qint64 NetworkExchange::OneWayBody::writeData(const char*, qint64)
 {
     return -1;
+}
+
+void NetworkExchange::Wait::exec(int limitMs)
+{
+    timer.start(limitMs, Qt::PreciseTimer, this);
+    QEventLoop::exec();
+    timer.stop();
+}
+
+void NetworkExchange::Wait::timerEvent(QTimerEvent*)
+{
+    timer.stop();
+    timeUp = true;
+    quit();
 }
 
 NetworkExchange::NetworkExchange(const AbortSignal* abortSignal)
@@ -101,30 +114,21 @@ NetworkExchange::Ending NetworkExchange::waitFor(QNetworkReply* reply, int limit
     // if it comes before that thread has the request, which is queued too.
     QMetaObject::invokeMethod(
         reply, [reply] { reply->setReadBufferSize(readAhead); }, Qt::QueuedConnection);
-    QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    QObject::connect(reply, &QNetworkReply::readyRead, &loop, [this] { receive(); });
+    QObject::connect(reply, &QNetworkReply::finished, &wait, &QEventLoop::quit);
+    QObject::connect(reply, &QNetworkReply::readyRead, &wait, [this] { receive(); });
     // By name: of a connection by pointer Qt loses the pointer's holder if it ends while the signal
     // is raised on another thread.
     if (abortSignal)
-        QObject::connect(abortSignal, SIGNAL(raised()), &loop, SLOT(quit()));
-
-    QTimer timer;
-    timer.setTimerType(Qt::PreciseTimer);
-    timer.setSingleShot(true);
-    timer.setInterval(limitMs);
-    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
-    timer.start();
+        QObject::connect(abortSignal, SIGNAL(raised()), &wait, SLOT(quit()));
     if (!isAborted())
-        loop.exec();
+        wait.exec(limitMs);
 
-    const bool timedOut = !timer.isActive();
-    timer.stop();
+    const bool timedOut = wait.isTimeUp();
     const bool brokenOff = !reply->isFinished();
     if (!timedOut && !brokenOff)
         receive();
     else if (reply->error() == QNetworkReply::NoError) // it can't take a second error
         reply->abort();
-    reply->deleteLater();
     if (timedOut)
         return Ending::TimedOut;
     return brokenOff || received.size() > largestBody ? Ending::BrokenOff : Ending::Finished;
@@ -139,7 +143,7 @@ void NetworkExchange::receive()
 {
     received += pending->read(pending->bytesAvailable());
     if (received.size() > largestBody)
-        loop.quit();
+        wait.quit();
 }
 
 } // namespace quorvel

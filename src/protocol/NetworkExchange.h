@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBasicTimer>
 #include <QByteArray>
 #include <QEventLoop>
 #include <QIODevice>
@@ -65,6 +66,22 @@ private:
         QByteArray rest;
     };
 
+    /// The event loop of the wait.
+    class Wait : public QEventLoop
+    {
+    public:
+        /// Returns when quit is called or the time is up.
+        void exec(int limitMs);
+        bool isTimeUp() const { return timeUp; }
+
+    protected:
+        void timerEvent(QTimerEvent*) override;
+
+    private:
+        QBasicTimer timer;
+        bool timeUp = false;
+    };
+
     Ending waitFor(QNetworkReply* reply, int limitMs);
     void receive();
 
@@ -75,7 +92,7 @@ private:
     QByteArray received;
     OneWayBody sent;
     QNetworkAccessManager manager;
-    QEventLoop loop;
+    Wait wait;
     QNetworkReply* pending = nullptr;
 };
 

@@ -4,13 +4,14 @@
 #include "support/ScriptedGateway.h"
 #include "support/Text.h"
 
+#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QNetworkAccessManager>
 #include <QNetworkProxy>
 #include <QNetworkReply>
-#include <QTimer>
+#include <QTimerEvent>
 #include <gtest/gtest.h>
 
 namespace quorvel::test
@@ -192,10 +193,18 @@ public:
 protected:
     bool eventFilter(QObject* receiver, QEvent* event) override
     {
-        const auto* timer = qobject_cast<QTimer*>(receiver);
-        if (timer && event->type() == QEvent::Timer)
-            intervals.append(timer->interval());
+        if (event->type() == QEvent::Timer)
+            append(receiver, static_cast<QTimerEvent*>(event)->timerId());
         return false;
+    }
+
+private:
+    void append(QObject* receiver, int id)
+    {
+        for (const auto& timer : QAbstractEventDispatcher::instance()->registeredTimers(receiver)) {
+            if (timer.timerId == id)
+                intervals.append(timer.interval);
+        }
     }
 };
 
