@@ -45,6 +45,13 @@ Contender bareCallAndDocuments(const QString& address)
             [=](int calls) { return measured(calls, [&] { bareCallWithDocuments(address); }); }};
 }
 
+/// The same, and Qt's maps in which requests and replies are handed on.
+Contender bareCallAndMaps(const QString& address)
+{
+    return {"bare exchange, QDom work and maps",
+            [=](int calls) { return measured(calls, [&] { bareCallWithMaps(address); }); }};
+}
+
 Contender libcurlCall(const QString& address)
 {
     const std::string url = "http://" + address.toStdString() + "/cgi-bin/webapp";
@@ -78,19 +85,20 @@ void printRatios(const Comparison& comparison, std::size_t one, std::size_t othe
     printRow(what + ", CPU", comparison.cpuRatio(one, other));
 }
 
-enum { Facade, Bare, BareAndDocuments, Plainest, Libcurl, Script, ScriptSession };
+enum { Facade, Bare, BareAndDocuments, BareAndMaps, Plainest, Libcurl, Script, ScriptSession };
 
 std::vector<Contender> contendersAt(const QString& address)
 {
-    return {facadeCall(facadeAt(address)), bareCall(address),    bareCallAndDocuments(address),
-            plainestCall(address),         libcurlCall(address), scriptCall(address, "post"),
-            scriptCall(address, "session")};
+    return {facadeCall(facadeAt(address)), bareCall(address),
+            bareCallAndDocuments(address), bareCallAndMaps(address),
+            plainestCall(address),         libcurlCall(address),
+            scriptCall(address, "post"),   scriptCall(address, "session")};
 }
 
 void compareSmall(const FixedServer& server, const Effort& effort)
 {
     const std::vector<Contender> contenders = contendersAt(server.address(0));
-    for (const std::size_t other : {Bare, BareAndDocuments, Plainest})
+    for (const std::size_t other : {Bare, BareAndDocuments, BareAndMaps, Plainest})
         expectSameRequest(server, contenders[Facade], contenders[other]);
     const Comparison comparison(contenders, effort);
     const std::string what = "1. getFirmwareVersion to ";
@@ -98,7 +106,10 @@ void compareSmall(const FixedServer& server, const Effort& effort)
     printRow(what + "the bare exchange, CPU", comparison.cpuRatio(Facade, Bare), atMost(1.10));
     printRatios(comparison, BareAndDocuments, Bare,
                 "1. the bare exchange and QDom work to the bare exchange");
+    printRatios(comparison, BareAndMaps, Bare,
+                "1. the bare exchange, QDom work and maps to the bare exchange");
     printRatios(comparison, Facade, BareAndDocuments, what + "the bare exchange and QDom work");
+    printRatios(comparison, Facade, BareAndMaps, what + "the bare exchange, QDom work and maps");
     printRatios(comparison, Facade, Plainest, what + "the plainest exchange");
     printRatios(comparison, Facade, Libcurl, what + "libcurl and pugixml");
     printRow(what + "Python requests, wall", comparison.wallRatio(Facade, Script), atMost(1));

@@ -77,6 +77,12 @@ void waitFor(QNetworkReply* reply, Qt::TimerType timerType)
     timer.stop();
 }
 
+QString writtenRequest()
+{
+    return bareWrite({{QStringLiteral("query"), QStringLiteral("sysmgr-0"),
+                       QStringLiteral("fwversion"), QString()}});
+}
+
 void finish(QNetworkReply* reply, const QByteArray& content)
 {
     if (reply->error() != QNetworkReply::NoError || content.isEmpty())
@@ -86,7 +92,8 @@ void finish(QNetworkReply* reply, const QByteArray& content)
 
 } // namespace
 
-QByteArray bareExchange(const QString& address, const QByteArray& content)
+QByteArray bareExchange(const QString& address, const QByteArray& content,
+                        QMap<QString, QString>* headers)
 {
     OneWayBody body(content);
     QNetworkAccessManager manager;
@@ -102,6 +109,10 @@ QByteArray bareExchange(const QString& address, const QByteArray& content)
                      [&received, reply] { received += reply->readAll(); });
     waitFor(reply, Qt::PreciseTimer);
     received += reply->readAll();
+    if (headers) {
+        for (const auto& [name, value] : reply->rawHeaderPairs())
+            headers->insert(QString::fromUtf8(name), QString::fromUtf8(value));
+    }
     finish(reply, received);
     return received;
 }
@@ -120,9 +131,25 @@ void plainestExchange(const QString& address)
 
 void bareCallWithDocuments(const QString& address)
 {
-    const QString request = bareWrite({{QStringLiteral("query"), QStringLiteral("sysmgr-0"),
-                                        QStringLiteral("fwversion"), QString()}});
-    if (bareRead(QString::fromUtf8(bareExchange(address, request.toUtf8()))) == 0)
+    if (bareRead(QString::fromUtf8(bareExchange(address, writtenRequest().toUtf8()))) == 0)
+        std::abort();
+}
+
+void bareCallWithMaps(const QString& address)
+{
+    const QMap<QString, QString> parameters{{QStringLiteral("method"), QStringLiteral("POST")},
+                                            {QStringLiteral("address"), address},
+                                            {QStringLiteral("path"), QStringLiteral("/path")},
+                                            {QStringLiteral("session"), QStringLiteral("SID=1")},
+                                            {QStringLiteral("content"), writtenRequest()}};
+    QMap<QString, QString> content;
+    const QByteArray body =
+        bareExchange(parameters.value(QStringLiteral("address")),
+                     parameters.value(QStringLiteral("content")).toUtf8(), &content);
+    content.insert(QStringLiteral("result"), QString::fromUtf8(body));
+    if (bareFlatten(content.value(QStringLiteral("result")))
+            .value(QStringLiteral("sysmgr-0.fwversion"))
+            .isEmpty())
         std::abort();
 }
 
