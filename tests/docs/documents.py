@@ -6,7 +6,9 @@ a fenced block is stands behind its fence:
     sh              commands, one a line, each of which must succeed
     console         commands behind "$ ", continued behind a backslash, and what they print; "..."
                     alone on a line stands for any lines
-    cpp             a whole program if it has a main, otherwise statements; both must compile
+    cpp             a whole program if it has a main, which is given a gateway's address, otherwise
+                    statements, for which fragment.cpp has what a host has
+    output          what the cpp block before it prints with the scenario "modern"
     cmake           a piece of a project; it must configure
     json            a scenario; the simulator must take it
     text            neither input nor output; nothing is done with it
@@ -19,6 +21,7 @@ Ports differ from run to run: the first time that a document shows one it is lea
 on the document's number means the real one.
 """
 
+import contextlib
 import os
 import pathlib
 import re
@@ -38,19 +41,6 @@ COMMAND = re.compile(
 # What CI does beside following the documents.
 RUNS = [".ci/run", "check", "tests/docs/CMakeLists.txt", "tests/quorvelctl/CMakeLists.txt",
         "tests/install/debian-packages-test"]
-
-# What the statements of a snippet can use beside the library.
-SNIPPET = """
-void snippet{line}(boost::shared_ptr<AspCpeFacadeObject> gateway, AuthenticationInfo info,
-                   AspWebAppErrorCodes error, QObject* window)
-{{
-    (void)gateway, (void)info, (void)error, (void)window;
-    {{ // where these names may be used for others
-#line {start} "{document}"
-{body}
-    }}
-}}
-"""
 
 
 class Wrong(Exception):
@@ -145,6 +135,18 @@ def any_build(command):
     return re.sub(r"build/(release|install)(?=/)", "$build", command.replace('"', ""))
 
 
+def has_main(block):
+    return "int main(" in block.text
+
+
+def expect_run(program, blocks):
+    """A program that the reader makes is started below the folder in which it is made."""
+    folder = re.escape(os.path.dirname(program.file))
+    start = re.compile(rf"^\$ (?:\w+=\S+ )*{folder}/", re.MULTILINE)
+    if not any(block.language == "console" and start.search(block.text) for block in blocks):
+        raise Wrong(f"{program}: a program that nobody runs")
+
+
 def expect_all_run(document, text, runs):
     for command in COMMAND.findall(without_blocks(text)):
         if any_build(command) not in runs:
@@ -155,24 +157,25 @@ class Reader:
     """Follows one document."""
 
     def __init__(self, clone, home, document, environment):
-        self._clone, self._home, self._environment = clone, home, environment
+        self._clone, self._home = clone, home
         self._shell = Shell(clone, environment)
         self._ports = {}
-        self._snippets = []
-        self._document = document
+        self._snippet = None
+        self._blocks = list(blocks_of(document, (clone / document).read_text()))
 
     def follow(self):
-        done = {"sh": self._sh, "console": self._console, "cpp": self._cpp, "cmake": self._cmake,
-                "json": self._json, "text": self._text}
-        text = (self._clone / self._document).read_text()
-        for block in blocks_of(self._document, text):
+        done = {"sh": self._sh, "console": self._console, "cpp": self._cpp, "output": self._output,
+                "cmake": self._cmake, "json": self._json, "text": self._text}
+        for block in self._blocks:
             if block.language not in done:
                 raise Wrong(f"{block}: '{block.language}' says not what to do with this block")
+            if block.language != "output":
+                self._expect_no_snippet()
             if block.file:
                 self._file(block)
             else:
                 done[block.language](block)
-        self._compile_snippets()
+        self._expect_no_snippet()
 
     def close(self):
         self._shell.close()
@@ -183,6 +186,8 @@ class Reader:
             if block.text not in path.read_text():
                 raise Wrong(f"{block}: that's not what stands in {block.file}")
             return
+        if has_main(block):
+            expect_run(block, self._blocks)
         path = pathlib.Path(block.file.replace("~", str(self._home), 1))
         path = self._clone / path
         path.parent.mkdir(parents=True, exist_ok=True)
@@ -234,43 +239,52 @@ class Reader:
             r"(?:.*\n)*?" if line == "..." else
             re.escape(line).replace("PORT", r"(\d+)") + r"\n" for line in lines)
         matches = re.compile(pattern).fullmatch
-        output = self._run(block, command, matches, patience=BUILDING if "..." in expected
-                           else PATIENCE)
+        builds = "..." in expected and " &" not in command
+        output = self._run(block, command, matches, patience=BUILDING if builds else PATIENCE)
         found = matches(output)
         if not found:
             raise Wrong(f"{block}: {command}\nprints:\n{output}instead of:\n"
                         + "".join(line + "\n" for line in expected))
         self._ports.update(zip(names, found.groups()))
 
+    def _expect_no_snippet(self):
+        if self._snippet:
+            raise Wrong(f"{self._snippet}: no output block tells what this prints")
+
     def _cpp(self, block):
-        if "int main(" in block.text:
-            self._compile(f'#line {block.line + 1} "{block}"\n{block.text}')
-        else:
-            self._snippets.append(block)
+        self._snippet = block
 
-    def _compile_snippets(self):
-        if not self._snippets:
-            return
-        heads, bodies = ["#include <quorvel/QuorvelApi1.h>\n#include <QtCore>\n"], []
-        for block in self._snippets:
-            lines = block.text.splitlines(keepends=True)
-            heads += [line for line in lines if line.startswith(("#include", "using namespace"))]
-            body = "".join("\n" if line in heads else line for line in lines)
-            bodies.append(SNIPPET.format(line=block.line, start=block.line + 1, body=body,
-                                         document=block.document))
-        self._compile("".join(heads) + "using namespace quorvel;\n" + "".join(bodies))
+    def _output(self, block):
+        snippet, self._snippet = self._snippet, None
+        if not snippet:
+            raise Wrong(f"{block}: the output of nothing")
+        expected = block.text.splitlines()
+        if not set(expected) - {"", "..."}:
+            raise Wrong(f"{block}: a line must show that this has run")
+        program = self._build(snippet)
+        with self._gateway(snippet, "modern") as address:
+            if has_main(snippet):
+                self._expect(snippet, f"{program} {address}", expected)
+                return
+            self._expect(snippet, f"{program} {address} & fragment=$!", expected)
+            # It prints nothing more, and ends by this signal and by none of its own.
+            ended = 128 + signal.SIGTERM
+            self._expect(snippet, f"kill $fragment && wait $fragment; [ $? -eq {ended} ]", [])
 
-    def _compile(self, text):
-        flags = subprocess.run(["pkg-config", "--cflags", "quorvelapi1"], check=True, text=True,
-                               env=self._environment, stdout=subprocess.PIPE).stdout.split()
-        if "quorvel-simulator/" in text:
-            flags += [f"-I{self._clone}/simulator/include"]
-            text = "#include <gtest/gtest.h>\n" + text
-        done = subprocess.run(
-            ["c++", "-std=c++17", "-fPIC", "-fsyntax-only", *flags, "-x", "c++", "-"], input=text,
-            text=True, stderr=subprocess.PIPE)
-        if done.returncode != 0:
-            raise Wrong(f"{self._document}: doesn't compile:\n{done.stderr}")
+    def _build(self, block):
+        folder = self._home / "snippet"
+        folder.mkdir(exist_ok=True)
+        source = folder / ("main.cpp" if has_main(block) else "fragment.inc")
+        source.write_text(f'#line {block.line + 1} "{block.document}"\n{block.text}')
+        main = source if has_main(block) else self._clone / "tests/docs/fragment.cpp"
+        simulator = ""
+        if "quorvel-simulator/" in block.text:
+            simulator = (f"-I{self._clone}/simulator/include -lgtest"
+                         f" {self._clone}/build/install/simulator/libQuorvelSimulator.a")
+        self._run(block, f"c++ -std=c++17 -fPIC -I{folder} {main} -o {folder}/program {simulator}"
+                         " -Wl,-rpath,$(pkg-config --variable=libdir quorvelapi1)"
+                         " $(pkg-config --cflags --libs quorvelapi1)")
+        return folder / "program"
 
     def _cmake(self, block):
         folder = self._home / "cmake-snippet"
@@ -286,8 +300,16 @@ class Reader:
     def _json(self, block):
         scenario = self._home / "scenario.json"
         scenario.write_text(block.text)
+        with self._gateway(block, scenario):
+            pass
+
+    @contextlib.contextmanager
+    def _gateway(self, block, scenario):
+        """A gateway, and its address as it stands in commands."""
+        address = "127.0.0.1:00001"
         self._expect(block, f"quorvel-gateway-sim --scenario {scenario} & scenario=$!",
-                     ["quorvel-gateway-sim: listening on http://127.0.0.1:00001"])
+                     [f"quorvel-gateway-sim: listening on http://{address}"])
+        yield address
         self._ports.pop("00001")
         self._run(block, "kill $scenario && wait $scenario")
 
