@@ -4,7 +4,6 @@
 #include "general/GeneralSettingsImplementor.h"
 #include "protocol/HttpRequestExecutor.h"
 #include "support/BuiltGateway.h"
-#include "support/MemoryWatch.h"
 #include "support/Resources.h"
 #include "support/Text.h"
 
@@ -18,8 +17,9 @@ namespace quorvel::test
 namespace
 {
 
-/// A head that doesn't end, or hardly. Qt takes it in before it tells anybody, and its manager
-/// waits 5 seconds for a thread that doesn't listen, so all that can be shown is that it ends.
+/// A head that doesn't end, or hardly. Qt takes in as much of it as comes before it tells anybody,
+/// and its manager waits 5 seconds for a thread that doesn't listen, so all that can be shown is
+/// that it ends.
 struct HeaderFlood {
     const char* name;
     Misbehaviour way;
@@ -74,7 +74,6 @@ TEST_P(HeaderFloods, End)
     EXPECT_EQ(facade.getFirmwareVersion(error), text("1.2"));
 
     const Resources before;
-    const MemoryWatch memory;
     opponent.misbehave();
     cpe->getGeneralImplementor()->setRequestExecutor(
         boost::make_shared<HttpRequestExecutor>(GetParam().limitMs));
@@ -83,7 +82,6 @@ TEST_P(HeaderFloods, End)
     facade.getFirmwareVersion(error);
     EXPECT_LT(clock.elapsed(), GetParam().mostMs);
     EXPECT_THAT(GetParam().errors, testing::Contains(error));
-    EXPECT_LE(memory.grownMegabytes(), 64);
     EXPECT_EQ(opponent.requests(), 2);
 
     opponent.behave();
