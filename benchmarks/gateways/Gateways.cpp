@@ -42,11 +42,13 @@ void compareAt(const FixedServer& server, int width, const Effort& effort)
         return Contender{name + ", " + std::to_string(width) + " at once",
                          [=](int calls) { return onThreads(width, calls, call); }};
     };
-    enum { Bare, BareAndDocuments, Facade };
+    enum { Bare, BareAndDocuments, BareAndMaps, Facade };
     const std::vector<Contender> contenders = {
         contender("bare exchanges", [&](std::size_t at) { bareExchange(server.address(at)); }),
         contender("bare exchanges and QDom work",
                   [&](std::size_t at) { bareCallWithDocuments(server.address(at)); }),
+        contender("bare exchanges, QDom work and maps",
+                  [&](std::size_t at) { bareCallWithMaps(server.address(at)); }),
         contender("facade calls", [&](std::size_t at) { askFirmware(facades[at]); })};
     const Comparison comparison(contenders, effort);
     const std::string what = "6. " + std::to_string(width) + " gateways at once, ";
@@ -55,8 +57,12 @@ void compareAt(const FixedServer& server, int width, const Effort& effort)
              atLeast(0.95));
     printRow(what + "bare exchanges and QDom work per second to bare exchanges",
              comparison.wallRatio(Bare, BareAndDocuments));
+    printRow(what + "bare exchanges, QDom work and maps per second to bare exchanges",
+             comparison.wallRatio(Bare, BareAndMaps));
     printRow(what + "calls per second to bare exchanges and QDom work",
              comparison.wallRatio(BareAndDocuments, Facade));
+    printRow(what + "calls per second to bare exchanges, QDom work and maps",
+             comparison.wallRatio(BareAndMaps, Facade));
     printRow(what + "CPU per call to a bare exchange's", comparison.cpuRatio(Facade, Bare));
     printRow(what + "CPU per call to a bare exchange's and QDom work's",
              comparison.cpuRatio(Facade, BareAndDocuments));
